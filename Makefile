@@ -1,0 +1,30 @@
+# Set-up, build, run and test in one place; every target installs what is missing first.
+BUILD   ?= build
+ORDNER  ?= $(CURDIR)/arbeitsordner
+JOBS    ?= $(shell nproc)
+
+.PHONY: deps configure build run test bench format clean
+
+deps:
+	@scripts/install-deps.sh
+
+configure: deps
+	@cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+
+build: configure
+	@cmake --build $(BUILD) -j $(JOBS)
+
+run: build
+	@scripts/run.sh $(BUILD) $(ORDNER)
+
+test: build
+	@cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+
+bench: build
+	@$(BUILD)/bench/lonvir_bench
+
+format:
+	@git ls-files '*.cpp' '*.h' | xargs clang-format -i
+
+clean:
+	@rm -rf $(BUILD)

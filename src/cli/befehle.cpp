@@ -1,0 +1,90 @@
+// Dispatch of the commands, the common options and the exit status.
+#include "cli/befehle.h"
+
+#include "core/laufzeitfehler.h"
+#include "start/start.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+
+namespace lonvir::cli {
+
+namespace {
+
+const char* const aufruf =
+    "Aufruf: lonvir97-cli BEFEHL [--ordner DIR] [--jahr 1997|1998] [--schicht INFO|PLAN|REAL]\n"
+    "                    [--json] [--ja|--nein] ...\n"
+    "Befehle: anlegen, zeigen, setzen, satz\n";
+
+std::filesystem::path standardordner() {
+    if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
+        return std::filesystem::path(x) / "lonvir97";
+    if (const char* h = std::getenv("HOME"); h && *h)
+        return std::filesystem::path(h) / ".local" / "share" / "lonvir97";
+    return "lonvir97";
+}
+
+std::int16_t schichtAus(const Optionen& o) {
+    const std::string w = o.wert("schicht").value_or("INFO");
+    if (w == "INFO")
+        return INFO;
+    if (w == "PLAN")
+        return PLAN;
+    if (w == "REAL")
+        return REAL;
+    throw Aufruffehler("--schicht muss INFO, PLAN oder REAL sein, nicht \"" + w + "\".");
+}
+
+} // namespace
+
+Knopf CliDialoge::zeigen(const Meldung& meldung) {
+    std::cerr << meldung.titel << ": " << meldung.text << "\n";
+    return skript_.zeigen(meldung);
+}
+
+Kontext::Kontext(const Optionen& o)
+    : optionen(o), dialoge(o.schalter("ja")), json(o.schalter("json")) {
+    if (o.schalter("ja") && o.schalter("nein"))
+        throw Aufruffehler("--ja und --nein schließen einander aus.");
+    s.ordner = Arbeitsordner(o.wert("ordner") ? std::filesystem::path(*o.wert("ordner"))
+                                              : standardordner());
+    s.dialoge = &dialoge;
+    s.jahr = static_cast<std::int16_t>(o.zahl("jahr", 1997, 1998, 1997));
+    s.schicht = schichtAus(o);
+    starten(s);
+}
+
+void Kontext::meldungenAnhaengen(Json& j) const {
+    j.feldAnfang("meldungen");
+    for (const Meldung& m : dialoge.gezeigt())
+        j.objektAnfang().text("titel", m.titel).text("text", m.text).objektEnde();
+    j.feldEnde();
+}
+
+int ausfuehren(int argc, char** argv) {
+    try {
+        Optionen o(argc, argv);
+        using Befehl = int (*)(Kontext&, std::ostream&);
+        Befehl befehl = nullptr;
+        if (o.befehl() == "anlegen")
+            befehl = anlegen;
+        else if (o.befehl() == "satz")
+            befehl = satz;
+        else
+            throw Aufruffehler("Unbekannter Befehl: " + o.befehl());
+        Kontext k(o);
+        return befehl(k, std::cout);
+    } catch (const Aufruffehler& f) {
+        std::cerr << f.what() << "\n" << aufruf;
+        return 2;
+    } catch (const Laufzeitfehler& f) {
+        std::cerr << f.what() << "\n";
+        return 3;
+    } catch (const Dateifehler& f) {
+        std::cerr << f.what() << "\n";
+        return 4;
+    }
+}
+
+} // namespace lonvir::cli

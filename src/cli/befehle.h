@@ -1,0 +1,44 @@
+// The commands of lonvir97-cli and what they share.
+#pragma once
+
+#include "cli/json.h"
+#include "cli/optionen.h"
+#include "core/dialoge.h"
+#include "start/sitzung.h"
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace lonvir::cli {
+
+// Message boxes of the CLI: each goes to stderr as "TITEL: TEXT" and is kept for JSON.
+class CliDialoge : public Dialoge {
+public:
+    explicit CliDialoge(bool ja) : skript_(ja) {}
+    Knopf zeigen(const Meldung& meldung) override;
+    [[nodiscard]] const std::vector<Meldung>& gezeigt() const { return skript_.gezeigt(); }
+
+private:
+    SkriptDialoge skript_;
+};
+
+// A session opened on the folder, year and layer of the common options.
+struct Kontext {
+    explicit Kontext(const Optionen& o);
+    const Optionen& optionen;
+    CliDialoge dialoge;
+    Sitzung s;
+    bool json;
+    // Adds the "meldungen" array to a JSON object that is still open.
+    void meldungenAnhaengen(Json& j) const;
+};
+
+int ausfuehren(int argc, char** argv);
+
+int anlegen(Kontext& k, std::ostream& aus);
+int zeigen(Kontext& k, std::ostream& aus);
+int setzen(Kontext& k, std::ostream& aus);
+int satz(Kontext& k, std::ostream& aus);
+
+} // namespace lonvir::cli

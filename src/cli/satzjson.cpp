@@ -1,0 +1,142 @@
+// Decoding each record type of the set into JSON.
+#include "cli/satzjson.h"
+
+#include "cli/json.h"
+#include "core/cp1252.h"
+#include "records/dimsatz.h"
+#include "records/personalsatz.h"
+#include "records/textsatz.h"
+#include "records/voeinsatz.h"
+
+#include <algorithm>
+#include <cctype>
+#include <regex>
+
+namespace lonvir::cli {
+
+namespace {
+
+std::string klein(std::string s) {
+    std::transform(s.begin(), s.end(), s.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return s;
+}
+
+template <typename F> void feld(Json& j, const char* name, const F& f) {
+    j.feldAnfang(name);
+    for (int i = F::unten; i <= F::oben; ++i) {
+        if constexpr (std::is_same_v<std::remove_cvref_t<decltype(f[i])>, Currency>)
+            j.roh({}, f[i].text());
+        else
+            j.zahl(f[i]);
+    }
+    j.feldEnde();
+}
+
+void personalsatz(Json& j, std::span<const std::uint8_t> b) {
+    const Personalsatz p = Personalsatz::lesen(b);
+    feld(j, "merkmal", p.merkmal); // elements 1..45
+    feld(j, "wert", p.wert);
+    feld(j, "nebenwert", p.nebenwert);
+    feld(j, "lst", p.lst);
+    feld(j, "soz", p.soz);
+    feld(j, "zvk", p.zvk);
+    feld(j, "wei", p.wei);
+    feld(j, "tei", p.tei);
+    feld(j, "bru", p.bru);
+    j.text("bdabeginn", cp1252NachUtf8(p.bdabeginn));
+}
+
+void dimsatz(Json& j, std::span<const std::uint8_t> b) {
+    const Dimsatz d = Dimsatz::lesen(b);
+    feld(j, "zeilenfarbe", d.zeilenfarbe);
+    const std::pair<const char*, Currency> felder[] = {
+        {"form1top", d.form1top},     {"form1left", d.form1left},   {"form1height", d.form1height},
+        {"form1width", d.form1width}, {"form2top", d.form2top},     {"form2left", d.form2left},
+        {"form2height", d.form2height}, {"form2width", d.form2width}, {"form3top", d.form3top},
+        {"form3left", d.form3left},   {"reserve172", d.reserve172}, {"reserve180", d.reserve180},
+        {"lstrtabtop", d.lstrtabtop}, {"lstrtableft", d.lstrtableft},
+        {"passwortart", d.passwortart}};
+    for (const auto& [name, wert] : felder)
+        j.roh(name, wert.text());
+    feld(j, "passwort", d.passwort);
+    j.zahl("anzahlpersonen", d.anzahlpersonen).zahl("reserve230", d.reserve230);
+}
+
+void voeinsatz(Json& j, std::span<const std::uint8_t> b) {
+    const Voeinsatz v = Voeinsatz::lesen(b);
+    j.text("dienststelle1", cp1252NachUtf8(v.dienststelle1))
+        .text("dienststelle2", cp1252NachUtf8(v.dienststelle2))
+        .text("dienststellenort", cp1252NachUtf8(v.dienststellenort))
+        .text("berichtszeile", cp1252NachUtf8(v.berichtszeile));
+    feld(j, "voreinstellung", v.voreinstellung);
+    feld(j, "vorgabewert", v.vorgabewert);
+}
+
+} // namespace
+
+Satzart satzartVon(const std::string& dateiname) {
+    const std::string n = klein(dateiname);
+    if (std::regex_match(n, std::regex(R"(l199[78][ipr]\.([1-9]|1[0-2]))")))
+        return Satzart::personalsatz;
+    if (std::regex_match(n, std::regex(R"(l199[78][ipr]\.13)")))
+        return Satzart::jahressatz;
+    if (std::regex_match(n, std::regex(R"(lonvir9[78]\.[1-4]tr)")))
+        return Satzart::tarifsatz;
+    if (n == "lonvir97.dim")
+        return Satzart::dimsatz;
+    if (n == "lonvir97.voe")
+        return Satzart::voeinsatz;
+    if (n == "texte.txt")
+        return Satzart::textsatz;
+    return Satzart::unbekannt;
+}
+
+int satzlaengeVon(Satzart art, long) {
+    switch (art) {
+    case Satzart::personalsatz:
+        return Personalsatz::laenge;
+    case Satzart::jahressatz:
+        return 1280;
+    case Satzart::tarifsatz:
+        return 108;
+    case Satzart::dimsatz:
+        return Dimsatz::laenge;
+    case Satzart::voeinsatz:
+        return Voeinsatz::laenge;
+    case Satzart::textsatz:
+        return Textsatz::laenge;
+    case Satzart::unbekannt:
+        break;
+    }
+    return 1;
+}
+
+std::string satzAlsJson(Satzart art, const std::string& datei, long nummer,
+                        std::span<const std::uint8_t> b) {
+    Json j;
+    j.objektAnfang().text("datei", datei).zahl("nummer", nummer);
+    switch (art) {
+    case Satzart::personalsatz:
+        j.text("satzart", "Personalsatz");
+        personalsatz(j, b);
+        break;
+    case Satzart::dimsatz:
+        j.text("satzart", "Dimsatz");
+        dimsatz(j, b);
+        break;
+    case Satzart::voeinsatz:
+        j.text("satzart", "Voeinsatz");
+        voeinsatz(j, b);
+        break;
+    case Satzart::textsatz:
+        j.text("satzart", "Textsatz").text("text", cp1252NachUtf8(Textsatz::lesen(b).text));
+        break;
+    default:
+        j.text("satzart", "unbekannt");
+        break;
+    }
+    return j.objektEnde().ergebnis();
+}
+
+} // namespace lonvir::cli

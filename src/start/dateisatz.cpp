@@ -1,0 +1,103 @@
+// Opening the file set: months, year record, tariffs, settings, texts, July 1997.
+#include "start/dateisatz.h"
+
+#include "start/einstellungen.h"
+
+namespace lonvir {
+
+char schichtbuchstabe(int schicht) {
+    switch (schicht) {
+    case INFO:
+        return 'I';
+    case PLAN:
+        return 'P';
+    case REAL:
+        return 'R';
+    }
+    return '?';
+}
+
+int satzlaengeVon(int nummer) {
+    if (nummer >= 1 && nummer <= 12)
+        return 541;
+    switch (nummer) {
+    case datei::jahressaetze:
+        return 1280;
+    case datei::dim:
+        return 232;
+    case datei::voe:
+        return 648;
+    case datei::texte:
+        return 35;
+    case datei::juli1997:
+        return 541;
+    default:
+        return 108; // the tariff files 14 to 17, 22 and 23
+    }
+}
+
+std::string dateiname(int nummer, int jahr, int schicht) {
+    const std::string jj = jahr == 1998 ? "98" : "97";
+    const std::string personen =
+        std::string("L") + (jahr == 1998 ? "1998" : "1997") + schichtbuchstabe(schicht) + ".";
+    if (nummer >= 1 && nummer <= 13)
+        return personen + std::to_string(nummer);
+    if (nummer >= datei::tarif1 && nummer <= datei::tarif4)
+        return "Lonvir" + jj + "." + std::to_string(nummer - 13) + "tr";
+    switch (nummer) {
+    case datei::dim:
+        return "Lonvir97.dim";
+    case datei::voe:
+        return "Lonvir97.voe"; // the same file whether spelled .Voe or .voe
+    case datei::texte:
+        return "Texte.txt";
+    case datei::juli1997:
+        return std::string("L1997") + schichtbuchstabe(schicht) + ".7";
+    case datei::tarif2von1997:
+        return "Lonvir97.2tr";
+    case datei::tarif3von1997:
+        return "Lonvir97.3tr";
+    }
+    return {};
+}
+
+void dateienschliessen(Sitzung& s) {
+    for (Satzdatei& d : s.dateien)
+        d.schliessen();
+}
+
+namespace {
+void oeffnen(Sitzung& s, int nummer, int jahr) {
+    s.datei(nummer).oeffnen(s.ordner.pfad(dateiname(nummer, jahr, s.schicht)),
+                            satzlaengeVon(nummer));
+}
+} // namespace
+
+void dateienoeffnen(Sitzung& s) {
+    dateienschliessen(s);
+    s.ordner.anlegen();
+    const bool schichtGueltig = s.schicht >= INFO && s.schicht <= REAL;
+    const bool jahrGueltig = s.jahr == 0 || s.jahr == 1997 || s.jahr == 1998;
+    if (schichtGueltig && jahrGueltig) {
+        const int jahr = s.jahr == 1998 ? 1998 : 1997;
+        if (jahr == 1997) {
+            // Creates L1998x.1, whose length later tells whether 1998 is in use.
+            oeffnen(s, 1, 1998);
+            s.datei(1).schliessen();
+        }
+        for (int nummer = 1; nummer <= datei::voe; ++nummer)
+            oeffnen(s, nummer, jahr);
+        oeffnen(s, datei::juli1997, 1997);
+    }
+    oeffnen(s, datei::texte, 1997);
+    oeffnen(s, datei::tarif2von1997, 1997);
+    oeffnen(s, datei::tarif3von1997, 1997);
+}
+
+void schichtwechsel(Sitzung& s, std::int16_t neueschicht) {
+    s.schicht = neueschicht;
+    dateienoeffnen(s);
+    voelesen(s);
+}
+
+} // namespace lonvir

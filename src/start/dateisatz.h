@@ -1,0 +1,22 @@
+// The file set of a layer and a year: 23 numbered record files in the working folder.
+#pragma once
+
+#include "start/sitzung.h"
+
+#include <string>
+
+namespace lonvir {
+
+// The canonical name of file `nummer` for the given year and layer, e.g. "L1997I.1".
+[[nodiscard]] std::string dateiname(int nummer, int jahr, int schicht);
+[[nodiscard]] int satzlaengeVon(int nummer);
+[[nodiscard]] char schichtbuchstabe(int schicht);
+
+// Closes every file and opens the whole set for the current layer and year.
+void dateienoeffnen(Sitzung& s);
+// Closes every file of the set.
+void dateienschliessen(Sitzung& s);
+// Another layer: reopen the set and read the settings again; the caller refreshes the screen.
+void schichtwechsel(Sitzung& s, std::int16_t neueschicht);
+
+} // namespace lonvir

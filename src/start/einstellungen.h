@@ -1,0 +1,25 @@
+// Reading and writing the two settings records, and the working values derived from them.
+#pragma once
+
+#include "start/sitzung.h"
+
+namespace lonvir {
+
+// Display settings, record 1 of Lonvir97.dim; an empty file gives the defaults.
+void dimlesen(Sitzung& s);
+void dimschreiben(Sitzung& s);
+// The defaults of an empty display settings file.
+[[nodiscard]] Dimsatz dimvorgaben(const Sitzung& s);
+
+// Settings of the year: record 1 for 1997, record 2 for any other year.
+void voelesen(Sitzung& s);
+void voeschreiben(Sitzung& s);
+[[nodiscard]] int voesatznummer(const Sitzung& s);
+
+// Turns the stored steps of the settings into rates, ceilings and months; restores the person.
+void aktualisieren(Sitzung& s);
+
+// A dark row colour (0 to 6, 8, 9, 12, 13) gets white text (15), all others black (0).
+[[nodiscard]] int textfarbe(int zeilenfarbe);
+
+} // namespace lonvir

@@ -1,0 +1,124 @@
+// The working state: one person, one month, one layer and year, and the open file set.
+#pragma once
+
+#include "core/arbeitsordner.h"
+#include "core/currency.h"
+#include "core/dialoge.h"
+#include "core/feld.h"
+#include "core/satzdatei.h"
+#include "records/dimsatz.h"
+#include "records/personalsatz.h"
+#include "records/voeinsatz.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace lonvir {
+
+enum Schicht : std::int16_t { INFO = 0, PLAN = 1, REAL = 2 };
+
+// File numbers of the set; 1 to 12 are the month files.
+namespace datei {
+constexpr int jahressaetze = 13;
+constexpr int tarif1 = 14;
+constexpr int tarif2 = 15;
+constexpr int tarif3 = 16;
+constexpr int tarif4 = 17;
+constexpr int dim = 18;
+constexpr int voe = 19;
+constexpr int texte = 20;
+constexpr int juli1997 = 21;
+constexpr int tarif2von1997 = 22;
+constexpr int tarif3von1997 = 23;
+} // namespace datei
+
+// What `aktualisieren` derives from the settings record: rates, ceilings, months, factors.
+struct Einstellungswerte {
+    Currency pvsatz, rvsatz, avsatz; // employee's half, in percent
+    std::int32_t bmgKvWest = 0, bmgPvWest = 0, bmgRvWest = 0, bmgAvWest = 0, geringWest = 0;
+    std::int32_t bmgKvOst = 0, bmgPvOst = 0, bmgRvOst = 0, bmgAvOst = 0, geringOst = 0;
+    Currency multiplikatorBeamte, multiplikatorAngestellte;
+    std::int32_t abMonatBeamte = 0, abMonatAngestellte = 0;
+    std::int32_t tarifmonat1 = 0, ab_tarif2 = 0, ab_tarif3 = 0, ab_tarif4 = 0;
+    std::int32_t liste26 = 0;
+    std::int32_t zvkmodus = 0, kirchenpausch = 0;
+    Feld<Currency, 0, 3> zuwendungsquote;
+};
+
+struct Sitzung {
+    Sitzung() = default;
+    Sitzung(const Sitzung&) = delete;
+    Sitzung& operator=(const Sitzung&) = delete;
+
+    // --- where the data lie and who answers the questions
+    Arbeitsordner ordner;
+    std::array<Satzdatei, 24> dateien; // index = file number 1..23; 0 unused
+    Dialoge* dialoge = nullptr;
+
+    // --- place
+    std::int16_t jahr = 1997;
+    std::int16_t schicht = INFO;
+    std::int16_t aktuelleperson = 1;
+    std::int16_t aktuellerdatei = 1;
+    std::int16_t anzahlnamen = 0;
+    std::int16_t anzahlkostenstellen = 0;
+    std::int16_t Tablettseite = 0;
+
+    // --- the person's month
+    Feld<std::int16_t, 0, 45> merkmal;
+    Feld<std::int32_t, 0, 45> wert;
+    Feld<std::int32_t, 0, 45> eingabe;
+    Feld<std::int32_t, 0, 25> nebenwert;
+    Schalter lst, soz, zvk, wei, tei, bru;
+    std::string bdabeginn = "01.1997"; // raw code page 1252, 7 bytes
+
+    // --- the results of a run
+    Feld<Currency, 7, 19> teilwert;
+    Feld<Currency, 7, 19> zahlwert;
+    float teilzeitfaktor = 0;
+    float tagefaktor = 0;
+    Feld<std::int32_t, 0, 27> lstwert;
+    Feld<std::int32_t, 0, 27> svwert;
+    Feld<std::int32_t, 0, 27> zvkwert;
+    Feld<std::int32_t, 0, 26> tarifwert;
+    std::int16_t oz_sonder = 0;
+
+    // --- flags of the screen and the driver
+    std::int16_t aenderungssperre = 0;
+    std::int16_t bildwirdgebaut = 0;
+    std::int16_t startphase = 0;
+    std::int16_t aktuellezeile = 0;
+    std::int16_t Neuberechnung = 0;
+    std::int16_t aenderungscode = 0;
+    std::int16_t bruttomodus = 0;
+    std::int16_t folgelauf = 0;
+    std::int16_t jahreslauf = 0;
+    std::int16_t jahressperre = 0;     // set while the year view stands
+    std::int16_t folgesperre = 0;      // set by a caller that wants no follow-up months
+    std::int16_t zeile9aktiv = 1;      // row 9's list can be used
+
+    // --- settings
+    Dimsatz dim;  // row colours, window places, start lock, as working values
+    Feld<Currency, 0, 40> voreinstellung;
+    Feld<std::int32_t, 0, 14> vorgabewert;
+    std::string dienststelle1 = std::string(40, ' ');
+    std::string dienststelle2 = std::string(40, ' ');
+    std::string dienststellenort = std::string(20, ' ');
+    std::string berichtszeile = std::string(100, ' ');
+    Einstellungswerte einstellungen;
+    bool erstbenutzung = false; // the display settings file was empty at start
+    // Screen size in twips, for the default window places; the window sets the real one.
+    std::int32_t bildschirmhoehe = 11520;
+    std::int32_t bildschirmbreite = 15360;
+
+    [[nodiscard]] Satzdatei& datei(int nummer) {
+        if (nummer < 1 || nummer > 23)
+            throw Laufzeitfehler::indexfehler();
+        return dateien[static_cast<std::size_t>(nummer)];
+    }
+    [[nodiscard]] bool ist1997() const { return jahr == 1997 || jahr == 0; }
+    [[nodiscard]] int personalart() const { return merkmal[4]; }
+};
+
+} // namespace lonvir

@@ -1,0 +1,54 @@
+// Reading and writing the text table, and counting names and cost centres.
+#include "start/texte.h"
+
+#include "core/cp1252.h"
+#include "records/bytes.h"
+#include "records/textsatz.h"
+
+#include <array>
+
+namespace lonvir {
+
+namespace {
+std::string rohlesen(Sitzung& s, int nummer) {
+    std::array<std::uint8_t, Textsatz::laenge> b{};
+    s.datei(datei::texte).lesen(nummer, b);
+    return Textsatz::lesen(b).text;
+}
+
+bool leer(const std::string& roh) { return roh.find_first_not_of(' ') == std::string::npos; }
+
+std::string rechtsgetrimmt(std::string t) {
+    t.erase(t.find_last_not_of(' ') + 1);
+    return t;
+}
+} // namespace
+
+std::string textlesen(Sitzung& s, int nummer) { return cp1252NachUtf8(rohlesen(s, nummer)); }
+
+std::string textgetrimmt(Sitzung& s, int nummer) {
+    return cp1252NachUtf8(rechtsgetrimmt(rohlesen(s, nummer)));
+}
+
+void textschreiben(Sitzung& s, int nummer, const std::string& text) {
+    Textsatz t{bytes::fest(utf8NachCp1252(text), Textsatz::laenge)};
+    std::array<std::uint8_t, Textsatz::laenge> b{};
+    t.schreiben(b);
+    s.datei(datei::texte).schreiben(nummer, b);
+}
+
+std::int16_t personenzaehlen(Sitzung& s) {
+    for (int nummer = textnummer::letzterName; nummer >= textnummer::ersterName; --nummer)
+        if (!leer(rohlesen(s, nummer)))
+            return static_cast<std::int16_t>(nummer - 5000);
+    return 0;
+}
+
+std::int16_t kostenstellenzaehlen(Sitzung& s) {
+    int nummer = textnummer::ersteKostenstelle;
+    while (!leer(rohlesen(s, nummer)))
+        ++nummer;
+    return static_cast<std::int16_t>(nummer - textnummer::ersteKostenstelle);
+}
+
+} // namespace lonvir

@@ -1,0 +1,42 @@
+// Helpers of the tests.
+#include "testhilfe.h"
+
+#include "core/arbeitsordner.h"
+#include "start/start.h"
+
+#include <atomic>
+#include <fstream>
+#include <iterator>
+#include <unistd.h>
+
+namespace lonvir::test {
+
+namespace fs = std::filesystem;
+
+Tempordner::Tempordner() {
+    static std::atomic<int> zaehler{0};
+    pfad_ = fs::temp_directory_path() /
+            ("lonvir-test-" + std::to_string(::getpid()) + "-" + std::to_string(zaehler++));
+    fs::remove_all(pfad_);
+    fs::create_directories(pfad_);
+}
+
+Tempordner::~Tempordner() {
+    std::error_code fehler;
+    fs::remove_all(pfad_, fehler);
+}
+
+Umgebung::Umgebung(std::int16_t jahr, std::int16_t schicht) {
+    s.ordner = Arbeitsordner(ordner.pfad());
+    s.dialoge = &dialoge;
+    s.jahr = jahr;
+    s.schicht = schicht;
+    starten(s);
+}
+
+std::string dateiinhalt(const fs::path& ordner, const std::string& name) {
+    std::ifstream ein(Arbeitsordner(ordner).pfad(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
+}
+
+} // namespace lonvir::test

@@ -1,0 +1,37 @@
+// Helpers of the tests: a temporary working folder per test and an opened session on it.
+#pragma once
+
+#include "core/dialoge.h"
+#include "start/sitzung.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+namespace lonvir::test {
+
+// A fresh folder below the system's temp folder, removed with the object.
+class Tempordner {
+public:
+    Tempordner();
+    ~Tempordner();
+    Tempordner(const Tempordner&) = delete;
+    Tempordner& operator=(const Tempordner&) = delete;
+    [[nodiscard]] const std::filesystem::path& pfad() const { return pfad_; }
+
+private:
+    std::filesystem::path pfad_;
+};
+
+// A session on a temporary folder with scripted message boxes, started as the program starts.
+struct Umgebung {
+    explicit Umgebung(std::int16_t jahr = 1997, std::int16_t schicht = 0);
+    Tempordner ordner;
+    SkriptDialoge dialoge;
+    Sitzung s;
+};
+
+// The bytes of a file of the folder, matched without regard to case.
+[[nodiscard]] std::string dateiinhalt(const std::filesystem::path& ordner, const std::string& name);
+
+} // namespace lonvir::test
