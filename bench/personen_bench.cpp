@@ -14,7 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 
 void BM_personenanlegen1000(benchmark::State& state) {
-    const fs::path ordner = fs::temp_directory_path() / ("lonvir-bench-" + std::to_string(::getpid()));
+    const fs::path ordner =
+        fs::temp_directory_path() / ("lonvir-bench-" + std::to_string(::getpid()));
     for (auto _ : state) {
         state.PauseTiming();
         fs::remove_all(ordner);

@@ -69,6 +69,10 @@ int ausfuehren(int argc, char** argv) {
         Befehl befehl = nullptr;
         if (o.befehl() == "anlegen")
             befehl = anlegen;
+        else if (o.befehl() == "zeigen")
+            befehl = zeigen;
+        else if (o.befehl() == "setzen")
+            befehl = setzen;
         else if (o.befehl() == "satz")
             befehl = satz;
         else

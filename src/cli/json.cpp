@@ -74,7 +74,9 @@ Json& Json::zahl(std::string_view schluessel, std::int64_t wert) {
     return *this;
 }
 
-Json& Json::zahl(std::int64_t wert) { return zahl({}, wert); }
+Json& Json::zahl(std::int64_t wert) {
+    return zahl({}, wert);
+}
 
 Json& Json::roh(std::string_view schluessel, std::string_view jsontext) {
     trenner(schluessel);
@@ -88,6 +90,8 @@ Json& Json::text(std::string_view schluessel, std::string_view wert) {
     return *this;
 }
 
-Json& Json::text(std::string_view wert) { return text({}, wert); }
+Json& Json::text(std::string_view wert) {
+    return text({}, wert);
+}
 
 } // namespace lonvir::cli

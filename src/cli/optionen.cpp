@@ -8,8 +8,8 @@ namespace lonvir::cli {
 
 namespace {
 // Options that stand alone; every other option takes a value.
-const std::set<std::string> alleinstehend = {"json", "ja", "nein", "alter64", "besonders",
-                                             "beamte", "alter"};
+const std::set<std::string> alleinstehend = {"json",      "ja",     "nein", "alter64",
+                                             "besonders", "beamte", "alter"};
 } // namespace
 
 Optionen::Optionen(int argc, char** argv) {
@@ -24,7 +24,8 @@ Optionen::Optionen(int argc, char** argv) {
         std::string name = a.substr(2);
         if (alleinstehend.count(name)) {
             schalter_[name] = true;
-        } else if (name == "kirche" && (i + 1 >= argc || std::string(argv[i + 1]).rfind("--", 0) == 0)) {
+        } else if (name == "kirche" &&
+                   (i + 1 >= argc || std::string(argv[i + 1]).rfind("--", 0) == 0)) {
             schalter_[name] = true; // --kirche of the wage-tax run stands alone
         } else {
             if (i + 1 >= argc)
@@ -36,7 +37,9 @@ Optionen::Optionen(int argc, char** argv) {
         throw Aufruffehler("Kein Befehl angegeben.");
 }
 
-bool Optionen::schalter(const std::string& name) const { return schalter_.count(name) > 0; }
+bool Optionen::schalter(const std::string& name) const {
+    return schalter_.count(name) > 0;
+}
 
 std::optional<std::string> Optionen::wert(const std::string& name) const {
     auto it = werte_.find(name);
@@ -74,7 +77,8 @@ long Optionen::zahl(const std::string& name, long min, long max, long vorgabe) c
 }
 
 void Optionen::nurErlaubt(const std::vector<std::string>& erlaubt) const {
-    static const std::vector<std::string> gemeinsam = {"ordner", "jahr", "schicht", "json", "ja", "nein"};
+    static const std::vector<std::string> gemeinsam = {"ordner", "jahr", "schicht",
+                                                       "json",   "ja",   "nein"};
     auto bekannt = [&](const std::string& n) {
         return std::find(erlaubt.begin(), erlaubt.end(), n) != erlaubt.end() ||
                std::find(gemeinsam.begin(), gemeinsam.end(), n) != gemeinsam.end();

@@ -51,11 +51,13 @@ void dimsatz(Json& j, std::span<const std::uint8_t> b) {
     const Dimsatz d = Dimsatz::lesen(b);
     feld(j, "zeilenfarbe", d.zeilenfarbe);
     const std::pair<const char*, Currency> felder[] = {
-        {"form1top", d.form1top},     {"form1left", d.form1left},   {"form1height", d.form1height},
-        {"form1width", d.form1width}, {"form2top", d.form2top},     {"form2left", d.form2left},
-        {"form2height", d.form2height}, {"form2width", d.form2width}, {"form3top", d.form3top},
-        {"form3left", d.form3left},   {"reserve172", d.reserve172}, {"reserve180", d.reserve180},
-        {"lstrtabtop", d.lstrtabtop}, {"lstrtableft", d.lstrtableft},
+        {"form1top", d.form1top},       {"form1left", d.form1left},
+        {"form1height", d.form1height}, {"form1width", d.form1width},
+        {"form2top", d.form2top},       {"form2left", d.form2left},
+        {"form2height", d.form2height}, {"form2width", d.form2width},
+        {"form3top", d.form3top},       {"form3left", d.form3left},
+        {"reserve172", d.reserve172},   {"reserve180", d.reserve180},
+        {"lstrtabtop", d.lstrtabtop},   {"lstrtableft", d.lstrtableft},
         {"passwortart", d.passwortart}};
     for (const auto& [name, wert] : felder)
         j.roh(name, wert.text());

@@ -46,7 +46,9 @@ std::uintmax_t Arbeitsordner::laenge(const std::string& name) const {
     return fehler ? 0 : n;
 }
 
-bool Arbeitsordner::vorhanden(const std::string& name) const { return finden(name).has_value(); }
+bool Arbeitsordner::vorhanden(const std::string& name) const {
+    return finden(name).has_value();
+}
 
 std::optional<fs::file_time_type> Arbeitsordner::zeit(const std::string& name) const {
     auto p = finden(name);

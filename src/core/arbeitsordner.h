@@ -20,7 +20,8 @@ public:
     // Length in bytes; 0 when the file does not exist.
     [[nodiscard]] std::uintmax_t laenge(const std::string& name) const;
     [[nodiscard]] bool vorhanden(const std::string& name) const;
-    [[nodiscard]] std::optional<std::filesystem::file_time_type> zeit(const std::string& name) const;
+    [[nodiscard]] std::optional<std::filesystem::file_time_type>
+    zeit(const std::string& name) const;
     // Deletes the file matched without regard to case; a missing file is no error.
     void loeschen(const std::string& name) const;
     // Creates the folder when it is absent.

@@ -32,7 +32,9 @@ int128 geteiltGerundet(int128 a, int128 d) {
 
 } // namespace
 
-Currency Currency::ganz(int64_t wert) { return roh(passend(int128{wert} * skala)); }
+Currency Currency::ganz(int64_t wert) {
+    return roh(passend(int128{wert} * skala));
+}
 
 Currency Currency::gerundet(double wert) {
     double skaliert = wert * static_cast<double>(skala);
@@ -45,17 +47,29 @@ int32_t Currency::gerundetInt32() const {
     return pf::int32(static_cast<int64_t>(geteiltGerundet(roh_, skala)));
 }
 
-int16_t Currency::gerundetInt16() const { return pf::int16(gerundetInt32()); }
+int16_t Currency::gerundetInt16() const {
+    return pf::int16(gerundetInt32());
+}
 
-int32_t Currency::abgeschnittenInt32() const { return pf::int32(roh_ / skala); }
+int32_t Currency::abgeschnittenInt32() const {
+    return pf::int32(roh_ / skala);
+}
 
-Currency Currency::abgeschnitten() const { return roh(roh_ / skala * skala); }
+Currency Currency::abgeschnitten() const {
+    return roh(roh_ / skala * skala);
+}
 
-Currency Currency::operator+(Currency b) const { return roh(passend(int128{roh_} + b.roh_)); }
+Currency Currency::operator+(Currency b) const {
+    return roh(passend(int128{roh_} + b.roh_));
+}
 
-Currency Currency::operator-(Currency b) const { return roh(passend(int128{roh_} - b.roh_)); }
+Currency Currency::operator-(Currency b) const {
+    return roh(passend(int128{roh_} - b.roh_));
+}
 
-Currency Currency::operator-() const { return roh(passend(-int128{roh_})); }
+Currency Currency::operator-() const {
+    return roh(passend(-int128{roh_}));
+}
 
 Currency Currency::operator*(Currency b) const {
     return roh(passend(geteiltGerundet(int128{roh_} * b.roh_, skala)));

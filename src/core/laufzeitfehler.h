@@ -1,4 +1,5 @@
-// Run-time errors that end the program: overflow (6), index out of range (9), bad record number (63).
+// Run-time errors that end the program: overflow (6), index out of range (9), bad record number
+// (63).
 #pragma once
 
 #include <stdexcept>

@@ -21,10 +21,18 @@ int16_t int16(int64_t a) {
     return static_cast<int16_t>(a);
 }
 
-int32_t plus(int32_t a, int32_t b) { return int32(int64_t{a} + b); }
-int32_t minus(int32_t a, int32_t b) { return int32(int64_t{a} - b); }
-int32_t mal(int32_t a, int32_t b) { return int32(int64_t{a} * b); }
-int32_t negiert(int32_t a) { return int32(-int64_t{a}); }
+int32_t plus(int32_t a, int32_t b) {
+    return int32(int64_t{a} + b);
+}
+int32_t minus(int32_t a, int32_t b) {
+    return int32(int64_t{a} - b);
+}
+int32_t mal(int32_t a, int32_t b) {
+    return int32(int64_t{a} * b);
+}
+int32_t negiert(int32_t a) {
+    return int32(-int64_t{a});
+}
 
 namespace {
 double pruefen(double d) {
@@ -40,8 +48,12 @@ int32_t gerundet(double d) {
     return int32(static_cast<int64_t>(std::nearbyint(pruefen(d))));
 }
 
-int16_t gerundet16(double d) { return int16(gerundet(d)); }
+int16_t gerundet16(double d) {
+    return int16(gerundet(d));
+}
 
-int32_t abgeschnitten(double d) { return int32(static_cast<int64_t>(std::trunc(pruefen(d)))); }
+int32_t abgeschnitten(double d) {
+    return int32(static_cast<int64_t>(std::trunc(pruefen(d))));
+}
 
 } // namespace lonvir::pf

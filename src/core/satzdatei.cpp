@@ -12,7 +12,9 @@
 
 namespace lonvir {
 
-Satzdatei::~Satzdatei() { schliessen(); }
+Satzdatei::~Satzdatei() {
+    schliessen();
+}
 
 Satzdatei::Satzdatei(Satzdatei&& andere) noexcept
     : fd_(andere.fd_), satzlaenge_(andere.satzlaenge_), pfad_(std::move(andere.pfad_)) {
@@ -34,8 +36,8 @@ void Satzdatei::oeffnen(const std::filesystem::path& pfad, int satzlaenge) {
     schliessen();
     fd_ = ::open(pfad.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
     if (fd_ < 0)
-        throw Dateifehler(pfad.string(), std::string("kann nicht geöffnet werden (") +
-                                             std::strerror(errno) + ")");
+        throw Dateifehler(pfad.string(),
+                          std::string("kann nicht geöffnet werden (") + std::strerror(errno) + ")");
     satzlaenge_ = satzlaenge;
     pfad_ = pfad;
 }
@@ -73,8 +75,8 @@ void Satzdatei::lesen(std::int32_t nummer, std::span<std::uint8_t> satz) const {
         if (n < 0 && errno == EINTR)
             continue;
         if (n < 0)
-            throw Dateifehler(pfad_.string(), "Satz " + std::to_string(nummer) +
-                                                  " kann nicht gelesen werden");
+            throw Dateifehler(pfad_.string(),
+                              "Satz " + std::to_string(nummer) + " kann nicht gelesen werden");
         if (n == 0)
             break;
         gelesen += static_cast<std::size_t>(n);

@@ -53,7 +53,8 @@ std::string text(std::span<const std::uint8_t> b, std::size_t ab, std::size_t la
     return s;
 }
 
-void setzeText(std::span<std::uint8_t> b, std::size_t ab, std::size_t laenge, std::string_view roh) {
+void setzeText(std::span<std::uint8_t> b, std::size_t ab, std::size_t laenge,
+               std::string_view roh) {
     pruefen(b.size(), ab, laenge);
     for (std::size_t i = 0; i < laenge; ++i)
         b[ab + i] = i < roh.size() ? static_cast<std::uint8_t>(roh[i]) : std::uint8_t{' '};

@@ -10,9 +10,9 @@ namespace lonvir {
 namespace {
 // The fourteen Currency fields from offset 92 to 196, in file order.
 template <typename D> auto waehrungsfelder(D& d) {
-    return std::array{&d.form1top,  &d.form1left,  &d.form1height, &d.form1width, &d.form2top,
-                      &d.form2left, &d.form2height, &d.form2width, &d.form3top,   &d.form3left,
-                      &d.reserve172, &d.reserve180, &d.lstrtabtop,  &d.lstrtableft};
+    return std::array{&d.form1top,   &d.form1left,   &d.form1height, &d.form1width, &d.form2top,
+                      &d.form2left,  &d.form2height, &d.form2width,  &d.form3top,   &d.form3left,
+                      &d.reserve172, &d.reserve180,  &d.lstrtabtop,  &d.lstrtableft};
 }
 } // namespace
 

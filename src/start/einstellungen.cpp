@@ -37,7 +37,9 @@ std::int32_t grenze(const Sitzung& s, int i, double faktor, double basis) {
     return (formel(s, i, faktor, basis) * Currency::ganz(100)).gerundetInt32();
 }
 
-std::int32_t ganzzahl(const Sitzung& s, int i) { return s.voreinstellung[i].gerundetInt32(); }
+std::int32_t ganzzahl(const Sitzung& s, int i) {
+    return s.voreinstellung[i].gerundetInt32();
+}
 
 } // namespace
 
@@ -84,7 +86,9 @@ void dimschreiben(Sitzung& s) {
     s.datei(datei::dim).schreiben(1, b);
 }
 
-int voesatznummer(const Sitzung& s) { return s.ist1997() ? 1 : 2; }
+int voesatznummer(const Sitzung& s) {
+    return s.ist1997() ? 1 : 2;
+}
 
 void voelesen(Sitzung& s) {
     Satzdatei& f = s.datei(datei::voe);
@@ -155,7 +159,17 @@ void aktualisieren(Sitzung& s) {
 
 int textfarbe(int zeilenfarbe) {
     switch (zeilenfarbe) {
-    case 0: case 1: case 2: case 3: case 4: case 5: case 6: case 8: case 9: case 12: case 13:
+    case 0:
+    case 1:
+    case 2:
+    case 3:
+    case 4:
+    case 5:
+    case 6:
+    case 8:
+    case 9:
+    case 12:
+    case 13:
         return 15;
     default:
         return 0;

@@ -56,7 +56,9 @@ Personalsatz arbeitssatz(const Sitzung& s) {
     return p;
 }
 
-void satzschreiben(Sitzung& s) { satzschreiben(s, arbeitssatz(s)); }
+void satzschreiben(Sitzung& s) {
+    satzschreiben(s, arbeitssatz(s));
+}
 
 void satzschreiben(Sitzung& s, const Personalsatz& satz) {
     monatsdateiSetzen(s);

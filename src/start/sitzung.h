@@ -16,6 +16,15 @@
 
 namespace lonvir {
 
+// What the engine tells the screen: a row to repaint, the open panel to refresh.
+class Anzeige {
+public:
+    virtual ~Anzeige() = default;
+    virtual void zeilemalen(int zeile) = 0;
+    virtual void tablettauffrischen() = 0;
+    virtual void mauszeigerNormal() = 0;
+};
+
 enum Schicht : std::int16_t { INFO = 0, PLAN = 1, REAL = 2 };
 
 // File numbers of the set; 1 to 12 are the month files.
@@ -55,6 +64,7 @@ struct Sitzung {
     Arbeitsordner ordner;
     std::array<Satzdatei, 24> dateien; // index = file number 1..23; 0 unused
     Dialoge* dialoge = nullptr;
+    Anzeige* anzeige = nullptr; // the screen that shows the rows; none in the CLI
 
     // --- place
     std::int16_t jahr = 1997;
@@ -83,6 +93,16 @@ struct Sitzung {
     Feld<std::int32_t, 0, 27> zvkwert;
     Feld<std::int32_t, 0, 26> tarifwert;
     std::int16_t oz_sonder = 0;
+    // Sums of the paid rows (step 13 of the run), Pfennig.
+    std::int32_t steuerbrutto = 0; // rows subject to wage tax
+    std::int32_t svbrutto = 0;     // rows subject to social insurance
+    std::int32_t zvkbrutto = 0;    // rows subject to supplementary pension
+    // The tax inputs the run prepares (steps 15 to 19).
+    std::int16_t zeitraum = 2;       // 2 month, 1 year
+    std::int16_t kirchenpflicht = 0; // 1 while church tax applies
+    std::int32_t laufenderlohn = 0;  // taxable current wage of the month, Pfennig
+    std::int32_t einmallohn = 0;     // taxable one-off wage above 300.00 DM, Pfennig
+    Currency steuerlohn;             // taxable wage, grossed up to a full month
 
     // --- flags of the screen and the driver
     std::int16_t aenderungssperre = 0;
@@ -94,12 +114,12 @@ struct Sitzung {
     std::int16_t bruttomodus = 0;
     std::int16_t folgelauf = 0;
     std::int16_t jahreslauf = 0;
-    std::int16_t jahressperre = 0;     // set while the year view stands
-    std::int16_t folgesperre = 0;      // set by a caller that wants no follow-up months
-    std::int16_t zeile9aktiv = 1;      // row 9's list can be used
+    std::int16_t jahressperre = 0; // set while the year view stands
+    std::int16_t folgesperre = 0;  // set by a caller that wants no follow-up months
+    std::int16_t zeile9aktiv = 1;  // row 9's list can be used
 
     // --- settings
-    Dimsatz dim;  // row colours, window places, start lock, as working values
+    Dimsatz dim; // row colours, window places, start lock, as working values
     Feld<Currency, 0, 40> voreinstellung;
     Feld<std::int32_t, 0, 14> vorgabewert;
     std::string dienststelle1 = std::string(40, ' ');

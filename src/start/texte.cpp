@@ -16,7 +16,9 @@ std::string rohlesen(Sitzung& s, int nummer) {
     return Textsatz::lesen(b).text;
 }
 
-bool leer(const std::string& roh) { return roh.find_first_not_of(' ') == std::string::npos; }
+bool leer(const std::string& roh) {
+    return roh.find_first_not_of(' ') == std::string::npos;
+}
 
 std::string rechtsgetrimmt(std::string t) {
     t.erase(t.find_last_not_of(' ') + 1);
@@ -24,7 +26,9 @@ std::string rechtsgetrimmt(std::string t) {
 }
 } // namespace
 
-std::string textlesen(Sitzung& s, int nummer) { return cp1252NachUtf8(rohlesen(s, nummer)); }
+std::string textlesen(Sitzung& s, int nummer) {
+    return cp1252NachUtf8(rohlesen(s, nummer));
+}
 
 std::string textgetrimmt(Sitzung& s, int nummer) {
     return cp1252NachUtf8(rechtsgetrimmt(rohlesen(s, nummer)));

@@ -8,8 +8,8 @@
 namespace lonvir {
 
 namespace textnummer {
-constexpr int ersterName = 5001;    // person n at 5000 + n
-constexpr int letzterName = 6000;   // at most 1000 persons
+constexpr int ersterName = 5001;  // person n at 5000 + n
+constexpr int letzterName = 6000; // at most 1000 persons
 constexpr int ersteKostenstelle = 4801;
 } // namespace textnummer
 

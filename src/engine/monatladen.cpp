@@ -1,0 +1,26 @@
+// The load of a month: record, keyed values, calculation.
+#include "engine/monatladen.h"
+
+#include "engine/berechnen.h"
+#include "start/satzzugriff.h"
+
+namespace lonvir {
+
+void monatladen(Sitzung& s, std::int16_t person, std::int16_t monatsindex) {
+    s.aenderungssperre = -1;
+    s.aktuelleperson = person;
+    s.merkmal[0] = static_cast<std::int16_t>(person - 1);
+    s.merkmal[20] = monatsindex;
+    s.jahressperre = 0;
+    if (monatsindex == 12) {
+        jahressumme(s);
+    } else {
+        satzlesen(s);
+        eingabewerte(s);
+    }
+    s.aenderungscode = 0;
+    berechnen(s);
+    s.aenderungssperre = 0;
+}
+
+} // namespace lonvir
