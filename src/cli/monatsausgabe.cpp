@@ -57,12 +57,11 @@ void alsJson(Kontext& k, std::ostream& aus) {
 
 void alsText(Kontext& k, std::ostream& aus) {
     const Sitzung& s = k.s;
-    aus << "Person " << s.aktuelleperson << ", Monat " << s.merkmal[20] + 1 << ", Jahr "
-        << s.jahr << "\n";
+    aus << "Person " << s.aktuelleperson << ", Monat " << s.merkmal[20] + 1 << ", Jahr " << s.jahr
+        << "\n";
     for (int zeile = 0; zeile <= 45; ++zeile) {
         aus << std::setw(2) << zeile << "  " << std::setw(3) << s.merkmal[zeile] << "  "
-            << std::setw(11) << s.wert[zeile] << "  " << zeilentext(zeile, s.wert[zeile])
-            << "\n";
+            << std::setw(11) << s.wert[zeile] << "  " << zeilentext(zeile, s.wert[zeile]) << "\n";
     }
 }
 

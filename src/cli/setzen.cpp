@@ -57,7 +57,8 @@ void eingabeausfuehren(Kontext& k) {
 } // namespace
 
 int setzen(Kontext& k, std::ostream& aus) {
-    k.optionen.nurErlaubt({"person", "monat", "zeile", "betrag", "auswahl", "schalter", "an", "bda", "name"});
+    k.optionen.nurErlaubt(
+        {"person", "monat", "zeile", "betrag", "auswahl", "schalter", "an", "bda", "name"});
     if (eingaben(k.optionen) != 1)
         throw Aufruffehler("setzen braucht genau eine Eingabe: --betrag, --auswahl, --schalter, "
                            "--bda oder --name.");

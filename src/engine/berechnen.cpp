@@ -12,7 +12,9 @@ namespace {
 
 constexpr int jahresposition = 12;
 
-bool ab1997Juli(const Sitzung& s) { return !s.ist1997() || s.merkmal[20] >= 6; }
+bool ab1997Juli(const Sitzung& s) {
+    return !s.ist1997() || s.merkmal[20] >= 6;
+}
 
 // Step 1: row 9's list by staff class; runs before the dispatch.
 void zeile9schalten(Sitzung& s) {
@@ -85,8 +87,8 @@ void steuerlohnbestimmen(Sitzung& s) {
     }
     if (s.bruttomodus == 1)
         s.laufenderlohn = s.wert[22];
-    Currency lohn = Currency::ganz(s.laufenderlohn) - Currency::ganz(s.wert[23]) +
-                    Currency::ganz(s.wert[24]);
+    Currency lohn =
+        Currency::ganz(s.laufenderlohn) - Currency::ganz(s.wert[23]) + Currency::ganz(s.wert[24]);
     if (s.personalart() > 4)
         lohn += Currency::ganz(s.zvkwert[15]);
     s.lstwert[7] = lohn.gerundetInt32();

@@ -20,7 +20,9 @@ std::int32_t summe(const Feld<Currency, 7, 19>& zeilen, int von, int bis, Beding
     return s;
 }
 
-bool alle(int) { return true; }
+bool alle(int) {
+    return true;
+}
 
 // Row 21 or 22: the row before it where the factor is exactly 1, nothing where it is 0 or
 // less, else the sum of the factored rows.
@@ -38,8 +40,8 @@ void teilzeitsumme(Sitzung& s) {
     if (s.bruttomodus == 1) {
         // The gross was set directly: row 21 is the given amount.
         s.wert[20] = s.wert[21];
-        s.wert[21] = pf::gerundet(static_cast<double>(s.wert[20]) *
-                                  static_cast<double>(s.teilzeitfaktor));
+        s.wert[21] =
+            pf::gerundet(static_cast<double>(s.wert[20]) * static_cast<double>(s.teilzeitfaktor));
         return;
     }
     std::int32_t voll = 0;
@@ -53,14 +55,14 @@ void zahlwertebestimmen(Sitzung& s) {
     if (s.personalart() == 18)
         s.zahlwert[8] = Currency::ganz(0);
     for (int i = 7; i <= 19; ++i) {
-        s.zahlwert[i] = s.bru[i] == 1
-                            ? Currency::gerundet(s.teilwert[i].alsDouble() *
-                                                 static_cast<double>(s.tagefaktor))
-                            : s.teilwert[i];
+        s.zahlwert[i] =
+            s.bru[i] == 1
+                ? Currency::gerundet(s.teilwert[i].alsDouble() * static_cast<double>(s.tagefaktor))
+                : s.teilwert[i];
     }
     if (s.bruttomodus == 1)
-        s.wert[22] = pf::gerundet(static_cast<double>(s.wert[21]) *
-                                  static_cast<double>(s.tagefaktor));
+        s.wert[22] =
+            pf::gerundet(static_cast<double>(s.wert[21]) * static_cast<double>(s.tagefaktor));
     else
         s.wert[22] = gefaktort(s.wert[21], s.tagefaktor, s.zahlwert);
 }

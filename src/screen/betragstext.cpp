@@ -16,7 +16,9 @@ std::string ziffern(std::int64_t betrag) {
     return ganz + "," + (rest < 10 ? "0" : "") + std::to_string(rest);
 }
 
-std::int64_t betragVon(std::int32_t wert) { return std::llabs(static_cast<std::int64_t>(wert)); }
+std::int64_t betragVon(std::int32_t wert) {
+    return std::llabs(static_cast<std::int64_t>(wert));
+}
 
 } // namespace
 
