@@ -12,7 +12,9 @@ namespace lonvir {
 namespace fs = std::filesystem;
 
 namespace {
-bool da(const test::Tempordner& t, const std::string& name) { return fs::exists(t.pfad() / name); }
+bool da(const test::Tempordner& t, const std::string& name) {
+    return fs::exists(t.pfad() / name);
+}
 } // namespace
 
 TEST(Dateisatz, ErsterStartLegtDenGanzenSatzAn) {
