@@ -27,14 +27,22 @@ void farbenvorgeben(Dimsatz& d) {
     setzen(45, 45, 14);
 }
 
-// A stored step v turned into a Currency by a formula computed in 64-bit floating point.
-Currency formel(const Sitzung& s, int i, double faktor, double basis) {
-    return Currency::gerundet(s.voreinstellung[i].alsDouble() * faktor + basis);
+// A ceiling in Pfennig: (v * schritt + basis) * 100, computed in Currency, then rounded to
+// 32 bits. With whole steps every product is exact.
+std::int32_t grenze(const Sitzung& s, int i, int schritt, int basis) {
+    const Currency dm = s.voreinstellung[i] * Currency::ganz(schritt) + Currency::ganz(basis);
+    return (dm * Currency::ganz(100)).gerundetInt32();
 }
 
-// A ceiling in Pfennig: (v * faktor + basis) * 100, computed in Currency, then to 32 bits.
-std::int32_t grenze(const Sitzung& s, int i, double faktor, double basis) {
-    return (formel(s, i, faktor, basis) * Currency::ganz(100)).gerundetInt32();
+// A multiplier stored in thousandths above 1: v / 1000 + 1, in floating point, rounded.
+Currency multiplikator(const Sitzung& s, int i) {
+    return Currency::gerundet(s.voreinstellung[i].alsDouble() / 1000 + 1);
+}
+
+// A rate stored in tenths of a percent of the whole contribution above its base; the
+// employee pays half: (v / 10 + basis) / 2, in floating point, rounded.
+Currency halbsatz(const Sitzung& s, int i, double basis) {
+    return Currency::gerundet((s.voreinstellung[i].alsDouble() / 10 + basis) / 2);
 }
 
 std::int32_t ganzzahl(const Sitzung& s, int i) {
@@ -108,9 +116,6 @@ void voelesen(Sitzung& s) {
 }
 
 void voeschreiben(Sitzung& s) {
-    s.voreinstellung[14] = Currency::ganz(s.schicht);
-    s.voreinstellung[15] = Currency::ganz(s.aktuelleperson);
-    s.voreinstellung[16] = Currency::ganz(s.merkmal[20]);
     Voeinsatz v;
     v.dienststelle1 = s.dienststelle1;
     v.dienststelle2 = s.dienststelle2;
@@ -118,6 +123,10 @@ void voeschreiben(Sitzung& s) {
     v.berichtszeile = s.berichtszeile;
     v.voreinstellung = s.voreinstellung;
     v.vorgabewert = s.vorgabewert;
+    // The place of the user, so that the next start returns to it.
+    v.voreinstellung[14] = Currency::ganz(s.schicht);
+    v.voreinstellung[15] = Currency::ganz(s.aktuelleperson);
+    v.voreinstellung[16] = Currency::ganz(s.merkmal[20]);
     std::array<std::uint8_t, Voeinsatz::laenge> b{};
     v.schreiben(b);
     s.datei(datei::voe).schreiben(voesatznummer(s), b);
@@ -125,10 +134,9 @@ void voeschreiben(Sitzung& s) {
 
 void aktualisieren(Sitzung& s) {
     Einstellungswerte& e = s.einstellungen;
-    // Rates are stored in tenths of a percent of the whole contribution; the employee pays half.
-    e.pvsatz = Currency::gerundet((s.voreinstellung[1].alsDouble() / 10 + 1.5) / 2);
-    e.rvsatz = Currency::gerundet((s.voreinstellung[2].alsDouble() / 10 + 19.5) / 2);
-    e.avsatz = Currency::gerundet((s.voreinstellung[3].alsDouble() / 10 + 6.0) / 2);
+    e.pvsatz = halbsatz(s, 1, 1.5);
+    e.rvsatz = halbsatz(s, 2, 19.5);
+    e.avsatz = halbsatz(s, 3, 6.0);
     e.bmgKvWest = grenze(s, 4, 50, 6000);
     e.bmgPvWest = grenze(s, 5, 50, 6000);
     e.bmgRvWest = grenze(s, 6, 50, 8000);
@@ -139,9 +147,9 @@ void aktualisieren(Sitzung& s) {
     e.bmgRvOst = grenze(s, 11, 50, 7000);
     e.bmgAvOst = grenze(s, 12, 50, 7000);
     e.geringOst = grenze(s, 13, 10, 500);
-    e.multiplikatorBeamte = formel(s, 18, 1.0 / 1000, 1);
+    e.multiplikatorBeamte = multiplikator(s, 18);
     e.abMonatBeamte = ganzzahl(s, 19);
-    e.multiplikatorAngestellte = formel(s, 20, 1.0 / 1000, 1);
+    e.multiplikatorAngestellte = multiplikator(s, 20);
     e.abMonatAngestellte = ganzzahl(s, 21);
     e.tarifmonat1 = ganzzahl(s, 22);
     e.ab_tarif2 = ganzzahl(s, 23);

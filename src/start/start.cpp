@@ -7,6 +7,21 @@
 
 namespace lonvir {
 
+namespace {
+// The branch on the start lock: 0 opens the main form, 1 the password form. Above 1 the lock
+// counts as 0 in memory only, and the start form stays up with no main form after it; any
+// other value (below 0, or not whole) matches no branch and likewise stops the start.
+Startergebnis startsperre(Sitzung& s) {
+    if (s.dim.passwortart == Currency::ganz(0))
+        return Startergebnis::hauptform;
+    if (s.dim.passwortart == Currency::ganz(1))
+        return Startergebnis::passwort;
+    if (s.dim.passwortart > Currency::ganz(1))
+        s.dim.passwortart = Currency::ganz(0);
+    return Startergebnis::angehalten;
+}
+} // namespace
+
 Startergebnis starten(Sitzung& s) {
     s.startphase = 1;
     s.aenderungssperre = -1;
@@ -18,14 +33,7 @@ Startergebnis starten(Sitzung& s) {
     // Person creation leaves the last layer open; reopen the layer the start asked for.
     s.schicht = schicht;
     dateienoeffnen(s);
-    Startergebnis ergebnis = Startergebnis::hauptform;
-    if (s.dim.passwortart == Currency::ganz(1)) {
-        ergebnis = Startergebnis::passwort;
-    } else if (s.dim.passwortart > Currency::ganz(1)) {
-        // Treated as no lock in memory; the start form stays and no main form follows.
-        s.dim.passwortart = Currency::ganz(0);
-        ergebnis = Startergebnis::angehalten;
-    }
+    const Startergebnis ergebnis = startsperre(s);
     s.startphase = 0;
     s.aenderungssperre = 0;
     return ergebnis;
