@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace lonvir {
 
 TEST(Satzzugriff, SatzlesenNimmtPersonUndMonatUndLaesstElementNull) {
@@ -32,9 +34,12 @@ TEST(Satzzugriff, SatzschreibenSchreibtMonatUndDanachDieEinstellungen) {
     EXPECT_EQ(u.s.aktuellerdatei, 11);
     EXPECT_EQ(personalsatzlesen(u.s, 11, 4).wert[7], 555);
     // The place of the user: layer, person and month in elements 14, 15, 16 of record 1.
-    EXPECT_EQ(u.s.voreinstellung[15], Currency::ganz(4));
-    EXPECT_EQ(u.s.voreinstellung[16], Currency::ganz(10));
-    EXPECT_EQ(u.s.datei(19).laenge(), 648);
+    std::array<std::uint8_t, Voeinsatz::laenge> b{};
+    u.s.datei(19).lesen(1, b);
+    const Voeinsatz v = Voeinsatz::lesen(b);
+    EXPECT_EQ(v.voreinstellung[14], Currency::ganz(INFO));
+    EXPECT_EQ(v.voreinstellung[15], Currency::ganz(4));
+    EXPECT_EQ(v.voreinstellung[16], Currency::ganz(10));
 }
 
 TEST(Satzzugriff, EingabewerteLassenSechsZeilenAus) {
