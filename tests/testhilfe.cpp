@@ -2,6 +2,7 @@
 #include "testhilfe.h"
 
 #include "core/arbeitsordner.h"
+#include "start/dateisatz.h"
 #include "start/start.h"
 
 #include <atomic>
@@ -32,6 +33,13 @@ Umgebung::Umgebung(std::int16_t jahr, std::int16_t schicht) {
     s.jahr = jahr;
     s.schicht = schicht;
     starten(s);
+}
+
+LeereUmgebung::LeereUmgebung(std::int16_t schicht) {
+    s.ordner = Arbeitsordner(ordner.pfad());
+    s.dialoge = &dialoge;
+    s.schicht = schicht;
+    dateienoeffnen(s);
 }
 
 std::string dateiinhalt(const fs::path& ordner, const std::string& name) {

@@ -31,6 +31,15 @@ struct Umgebung {
     Sitzung s;
 };
 
+// A session on an empty temporary folder with the file set opened, but not started: no
+// names, no persons, no settings read.
+struct LeereUmgebung {
+    explicit LeereUmgebung(std::int16_t schicht = 0);
+    Tempordner ordner;
+    SkriptDialoge dialoge;
+    Sitzung s;
+};
+
 // The bytes of a file of the folder, matched without regard to case.
 [[nodiscard]] std::string dateiinhalt(const std::filesystem::path& ordner, const std::string& name);
 

@@ -1,9 +1,12 @@
 // A small writer of JSON text: objects, arrays, numbers and strings in order of insertion.
 #pragma once
 
+#include "core/currency.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace lonvir::cli {
 
@@ -27,5 +30,17 @@ private:
     std::string aus_;
     bool erstes_ = true;
 };
+
+// A bounded array as a JSON array; Currency elements as numbers with four decimals.
+template <typename F> void feldJson(Json& j, std::string_view name, const F& f) {
+    j.feldAnfang(name);
+    for (int i = F::unten; i <= F::oben; ++i) {
+        if constexpr (std::is_same_v<std::remove_cvref_t<decltype(f[i])>, Currency>)
+            j.roh({}, f[i].text());
+        else
+            j.zahl(f[i]);
+    }
+    j.feldEnde();
+}
 
 } // namespace lonvir::cli

@@ -12,17 +12,6 @@ namespace lonvir::cli {
 
 namespace {
 
-template <typename F> void feld(Json& j, const char* name, const F& f) {
-    j.feldAnfang(name);
-    for (int i = F::unten; i <= F::oben; ++i) {
-        if constexpr (std::is_same_v<std::remove_cvref_t<decltype(f[i])>, Currency>)
-            j.roh({}, f[i].text());
-        else
-            j.zahl(f[i]);
-    }
-    j.feldEnde();
-}
-
 void alsJson(Kontext& k, std::ostream& aus) {
     const Sitzung& s = k.s;
     Json j;
@@ -31,21 +20,21 @@ void alsJson(Kontext& k, std::ostream& aus) {
         .zahl("monat", s.merkmal[20] + 1)
         .zahl("jahr", s.jahr)
         .zahl("schicht", s.schicht);
-    feld(j, "merkmal", s.merkmal);
-    feld(j, "wert", s.wert);
-    feld(j, "eingabe", s.eingabe);
-    feld(j, "nebenwert", s.nebenwert);
-    feld(j, "zahlwert", s.zahlwert);
-    feld(j, "teilwert", s.teilwert);
-    feld(j, "lstwert", s.lstwert);
-    feld(j, "svwert", s.svwert);
-    feld(j, "zvkwert", s.zvkwert);
-    feld(j, "lst", s.lst);
-    feld(j, "soz", s.soz);
-    feld(j, "zvk", s.zvk);
-    feld(j, "wei", s.wei);
-    feld(j, "tei", s.tei);
-    feld(j, "bru", s.bru);
+    feldJson(j, "merkmal", s.merkmal);
+    feldJson(j, "wert", s.wert);
+    feldJson(j, "eingabe", s.eingabe);
+    feldJson(j, "nebenwert", s.nebenwert);
+    feldJson(j, "zahlwert", s.zahlwert);
+    feldJson(j, "teilwert", s.teilwert);
+    feldJson(j, "lstwert", s.lstwert);
+    feldJson(j, "svwert", s.svwert);
+    feldJson(j, "zvkwert", s.zvkwert);
+    feldJson(j, "lst", s.lst);
+    feldJson(j, "soz", s.soz);
+    feldJson(j, "zvk", s.zvk);
+    feldJson(j, "wei", s.wei);
+    feldJson(j, "tei", s.tei);
+    feldJson(j, "bru", s.bru);
     j.text("bdabeginn", cp1252NachUtf8(s.bdabeginn));
     j.feldAnfang("zeilen");
     for (int zeile = 0; zeile <= 45; ++zeile)

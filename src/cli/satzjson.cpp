@@ -22,34 +22,23 @@ std::string klein(std::string s) {
     return s;
 }
 
-template <typename F> void feld(Json& j, const char* name, const F& f) {
-    j.feldAnfang(name);
-    for (int i = F::unten; i <= F::oben; ++i) {
-        if constexpr (std::is_same_v<std::remove_cvref_t<decltype(f[i])>, Currency>)
-            j.roh({}, f[i].text());
-        else
-            j.zahl(f[i]);
-    }
-    j.feldEnde();
-}
-
 void personalsatz(Json& j, std::span<const std::uint8_t> b) {
     const Personalsatz p = Personalsatz::lesen(b);
-    feld(j, "merkmal", p.merkmal); // elements 1..45
-    feld(j, "wert", p.wert);
-    feld(j, "nebenwert", p.nebenwert);
-    feld(j, "lst", p.lst);
-    feld(j, "soz", p.soz);
-    feld(j, "zvk", p.zvk);
-    feld(j, "wei", p.wei);
-    feld(j, "tei", p.tei);
-    feld(j, "bru", p.bru);
+    feldJson(j, "merkmal", p.merkmal); // elements 1..45
+    feldJson(j, "wert", p.wert);
+    feldJson(j, "nebenwert", p.nebenwert);
+    feldJson(j, "lst", p.lst);
+    feldJson(j, "soz", p.soz);
+    feldJson(j, "zvk", p.zvk);
+    feldJson(j, "wei", p.wei);
+    feldJson(j, "tei", p.tei);
+    feldJson(j, "bru", p.bru);
     j.text("bdabeginn", cp1252NachUtf8(p.bdabeginn));
 }
 
 void dimsatz(Json& j, std::span<const std::uint8_t> b) {
     const Dimsatz d = Dimsatz::lesen(b);
-    feld(j, "zeilenfarbe", d.zeilenfarbe);
+    feldJson(j, "zeilenfarbe", d.zeilenfarbe);
     const std::pair<const char*, Currency> felder[] = {
         {"form1top", d.form1top},       {"form1left", d.form1left},
         {"form1height", d.form1height}, {"form1width", d.form1width},
@@ -61,7 +50,7 @@ void dimsatz(Json& j, std::span<const std::uint8_t> b) {
         {"passwortart", d.passwortart}};
     for (const auto& [name, wert] : felder)
         j.roh(name, wert.text());
-    feld(j, "passwort", d.passwort);
+    feldJson(j, "passwort", d.passwort);
     j.zahl("anzahlpersonen", d.anzahlpersonen).zahl("reserve230", d.reserve230);
 }
 
@@ -71,8 +60,8 @@ void voeinsatz(Json& j, std::span<const std::uint8_t> b) {
         .text("dienststelle2", cp1252NachUtf8(v.dienststelle2))
         .text("dienststellenort", cp1252NachUtf8(v.dienststellenort))
         .text("berichtszeile", cp1252NachUtf8(v.berichtszeile));
-    feld(j, "voreinstellung", v.voreinstellung);
-    feld(j, "vorgabewert", v.vorgabewert);
+    feldJson(j, "voreinstellung", v.voreinstellung);
+    feldJson(j, "vorgabewert", v.vorgabewert);
 }
 
 } // namespace

@@ -19,8 +19,8 @@ struct Bildzeile {
     bool aktiv = true;              // z(row) can be used
     bool gesperrt = false;          // t(row) refuses typing
     bool sichtbar = true;
-    int farbe = 15;                 // colour number 0..15 of the background
-    int textfarbe = 0;              // 15 white on dark colours, 0 black otherwise
+    int farbe = 15;    // colour number 0..15 of the background
+    int textfarbe = 0; // 15 white on dark colours, 0 black otherwise
 };
 
 struct Schalterspalte {

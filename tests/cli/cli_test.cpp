@@ -49,8 +49,7 @@ TEST(Cli, AnlegenSetzenZeigenSatzUndDieBytesAufDerPlatte) {
     // 123.45 DM typed in row 12 for person 3 in March.
     Lauf s = cli("setzen " + ordner + " --person 3 --monat 3 --zeile 12 --betrag 12345 --json");
     ASSERT_EQ(s.status, 0);
-    EXPECT_NE(s.aus.find("\"wert\":[3850,3850,3000,3000,0,0,0,0,0,0,0,0,12345,"),
-              std::string::npos)
+    EXPECT_NE(s.aus.find("\"wert\":[3850,3850,3000,3000,0,0,0,0,0,0,0,0,12345,"), std::string::npos)
         << s.aus;
     EXPECT_NE(s.aus.find("\"123,45+\""), std::string::npos);
 

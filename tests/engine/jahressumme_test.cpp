@@ -24,7 +24,7 @@ TEST(Jahressumme, LeereMonateAddierenNullen) {
 TEST(Jahressumme, SummeDerGespeichertenMonate) {
     test::Umgebung u;
     monatladen(u.s, 4, 9);
-    u.s.merkmal[18] = 7; // Christmas bonus typed, none computed
+    u.s.merkmal[18] = 7;               // Christmas bonus typed, none computed
     betragbestaetigen(u.s, 12, 12345); // October to December
     monatladen(u.s, 4, 12);
     EXPECT_EQ(u.s.wert[12], 3 * 12345);

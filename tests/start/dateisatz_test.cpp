@@ -80,13 +80,8 @@ TEST(Dateisatz, VorhandeneKleinschreibungWirdGeoeffnet) {
 }
 
 TEST(Dateisatz, UnbekannteSchichtOeffnetNurTexteUndTarife1997) {
-    test::Tempordner t;
-    SkriptDialoge d;
-    Sitzung s;
-    s.ordner = Arbeitsordner(t.pfad());
-    s.dialoge = &d;
-    s.schicht = 5;
-    dateienoeffnen(s);
+    test::LeereUmgebung u(5);
+    Sitzung& s = u.s;
     EXPECT_FALSE(s.datei(1).offen());
     EXPECT_FALSE(s.datei(21).offen());
     EXPECT_TRUE(s.datei(20).offen());

@@ -46,12 +46,8 @@ TEST(Personenanlegen, LeererJahressatzIstAusLeerzeichen) {
 }
 
 TEST(Personenanlegen, WenigerAlsSechsNamenWerdenAuf20Ergaenzt) {
-    test::Tempordner t;
-    SkriptDialoge d;
-    Sitzung s;
-    s.ordner = Arbeitsordner(t.pfad());
-    s.dialoge = &d;
-    dateienoeffnen(s);
+    test::LeereUmgebung u;
+    Sitzung& s = u.s;
     textschreiben(s, 5001, "Anna Abel");
     textschreiben(s, 5003, "Carl Cordes"); // a blank name in between counts as used
     personenanlegen(s);
@@ -63,12 +59,8 @@ TEST(Personenanlegen, WenigerAlsSechsNamenWerdenAuf20Ergaenzt) {
 }
 
 TEST(Personenanlegen, LeereMonatsdateiZaehltAlsEinSatzDerUeberschriebenWird) {
-    test::Tempordner t;
-    SkriptDialoge d;
-    Sitzung s;
-    s.ordner = Arbeitsordner(t.pfad());
-    s.dialoge = &d;
-    dateienoeffnen(s);
+    test::LeereUmgebung u;
+    Sitzung& s = u.s;
     EXPECT_EQ(gespeichertesaetze(s), 1); // length 0 counts as one record
     Personalsatz fremd = Personalsatz::neu(0);
     fremd.wert[12] = 4711;
@@ -100,16 +92,11 @@ TEST(Personenanlegen, WachsenderBestandSchreibtAbDerGespeichertenNummer) {
 }
 
 TEST(Personenanlegen, BeruehrtAlleSchichtenUndLaesstDieLetzteOffen) {
-    test::Tempordner t;
-    SkriptDialoge d;
-    Sitzung s;
-    s.ordner = Arbeitsordner(t.pfad());
-    s.dialoge = &d;
-    s.schicht = PLAN;
-    dateienoeffnen(s);
+    test::LeereUmgebung u(PLAN);
+    Sitzung& s = u.s;
     personenanlegen(s);
     EXPECT_EQ(s.datei(1).pfad().filename(), "L1997R.1");
-    EXPECT_EQ(fs::file_size(t.pfad() / "L1997I.5"), 20u * 541);
+    EXPECT_EQ(fs::file_size(u.ordner.pfad() / "L1997I.5"), 20u * 541);
 }
 
 TEST(Personenanlegen, NichtsZuTunWennDerBestandReicht) {
