@@ -4,7 +4,10 @@
 #include "cli/json.h"
 #include "core/cp1252.h"
 #include "records/dimsatz.h"
+#include "records/jahressatz.h"
+#include "records/kvsatz.h"
 #include "records/personalsatz.h"
+#include "records/tarifsatz.h"
 #include "records/textsatz.h"
 #include "records/voeinsatz.h"
 
@@ -54,6 +57,26 @@ void dimsatz(Json& j, std::span<const std::uint8_t> b) {
     j.zahl("anzahlpersonen", d.anzahlpersonen).zahl("reserve230", d.reserve230);
 }
 
+void jahressatz(Json& j, std::span<const std::uint8_t> b) {
+    const Jahressatz satz = Jahressatz::lesen(b);
+    j.feldAnfang("bemerkung");
+    for (int i = 0; i <= 15; ++i)
+        j.text(satz.text(i));
+    j.feldEnde();
+}
+
+// Records 3 to 14 of Lonvir97.dim hold the health-insurance rates of 1997, 15 to 26 those of
+// 1998, one month each.
+bool istKvsatz(long nummer) {
+    return nummer >= 3 && nummer <= 26;
+}
+
+void kvsatz(Json& j, long nummer, std::span<const std::uint8_t> b) {
+    const Kvsatz k = Kvsatz::lesen(b);
+    j.zahl("jahr", nummer <= 14 ? 1997 : 1998).zahl("monat", (nummer - 3) % 12 + 1);
+    feld(j, "kvsatz", k.satz); // hundredths of a percent, by fund 0..27
+}
+
 void voeinsatz(Json& j, std::span<const std::uint8_t> b) {
     const Voeinsatz v = Voeinsatz::lesen(b);
     j.text("dienststelle1", cp1252NachUtf8(v.dienststelle1))
@@ -74,9 +97,10 @@ Satzart satzartVon(const std::string& dateiname) {
         return Satzart::jahressatz;
     if (std::regex_match(n, std::regex(R"(lonvir9[78]\.[1-4]tr)")))
         return Satzart::tarifsatz;
-    if (n == "lonvir97.dim")
+    // The year change also writes copies with a layer letter, e.g. Lonvir97I.dim.
+    if (std::regex_match(n, std::regex(R"(lonvir97[ipr]?\.dim)")))
         return Satzart::dimsatz;
-    if (n == "lonvir97.voe")
+    if (std::regex_match(n, std::regex(R"(lonvir97[ipr]?\.voe)")))
         return Satzart::voeinsatz;
     if (n == "texte.txt")
         return Satzart::textsatz;
@@ -88,9 +112,9 @@ int satzlaengeVon(Satzart art, long) {
     case Satzart::personalsatz:
         return Personalsatz::laenge;
     case Satzart::jahressatz:
-        return 1280;
+        return Jahressatz::laenge;
     case Satzart::tarifsatz:
-        return 108;
+        return Tarifsatz::laenge;
     case Satzart::dimsatz:
         return Dimsatz::laenge;
     case Satzart::voeinsatz:
@@ -112,9 +136,25 @@ std::string satzAlsJson(Satzart art, const std::string& datei, long nummer,
         j.text("satzart", "Personalsatz");
         personalsatz(j, b);
         break;
+    case Satzart::jahressatz:
+        j.text("satzart", "Jahressatz");
+        jahressatz(j, b);
+        break;
+    case Satzart::tarifsatz:
+        j.text("satzart", "Tarifsatz");
+        feld(j, "wert", Tarifsatz::lesen(b).wert);
+        break;
     case Satzart::dimsatz:
-        j.text("satzart", "Dimsatz");
-        dimsatz(j, b);
+        if (istKvsatz(nummer)) {
+            j.text("satzart", "Kvsatz");
+            kvsatz(j, nummer, b);
+        } else if (nummer <= 2) {
+            // Record 2 is the year change's copy of record 1.
+            j.text("satzart", "Dimsatz");
+            dimsatz(j, b);
+        } else {
+            j.text("satzart", "unbekannt");
+        }
         break;
     case Satzart::voeinsatz:
         j.text("satzart", "Voeinsatz");

@@ -2,6 +2,7 @@
 #include "start/einstellungen.h"
 
 #include "core/pfennig.h"
+#include "start/kvsaetze.h"
 
 #include <array>
 
@@ -113,6 +114,8 @@ void voelesen(Sitzung& s) {
     s.dienststellenort = v.dienststellenort;
     s.berichtszeile = v.berichtszeile;
     aktualisieren(s);
+    // The health-insurance rates belong to the year as this record does.
+    kvsaetzelesen(s);
 }
 
 void voeschreiben(Sitzung& s) {

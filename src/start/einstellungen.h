@@ -11,8 +11,12 @@ void dimschreiben(Sitzung& s);
 // The defaults of an empty display settings file.
 [[nodiscard]] Dimsatz dimvorgaben(const Sitzung& s);
 
-// Settings of the year: record 1 for 1997, record 2 for any other year.
+// Settings of the year: record 1 for 1997, record 2 for any other year, then aktualisieren;
+// an empty file gives zeros and blanks. Reads the year's health-insurance rates as well
+// (kvsaetzelesen), so that every change of year through voelesen brings its own rates.
 void voelesen(Sitzung& s);
+// Writes the working settings as the year's record, with elements 14, 15 and 16 replaced
+// in the record by the current layer, person and month.
 void voeschreiben(Sitzung& s);
 [[nodiscard]] int voesatznummer(const Sitzung& s);
 

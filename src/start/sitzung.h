@@ -127,6 +127,9 @@ struct Sitzung {
     std::string dienststellenort = std::string(20, ' ');
     std::string berichtszeile = std::string(100, ' ');
     Einstellungswerte einstellungen;
+    // Health-insurance rate by month 0..11 and fund 0..29 (28 typed subsidy, 29 none), in
+    // hundredths of a percent: 13.5 % is 1350.
+    Feld<Feld<Currency, 0, 29>, 0, 11> kvsatz;
     bool erstbenutzung = false; // the display settings file was empty at start
     // Screen size in twips, for the default window places; the window sets the real one.
     std::int32_t bildschirmhoehe = 11520;

@@ -1,9 +1,12 @@
 // The start sequence: file set, settings, display settings, start lock, persons.
 #include "start/start.h"
 
+#include "core/pfennig.h"
 #include "start/dateisatz.h"
 #include "start/einstellungen.h"
 #include "start/personenanlegen.h"
+
+#include <cstdint>
 
 namespace lonvir {
 
@@ -37,6 +40,21 @@ Startergebnis starten(Sitzung& s) {
     s.startphase = 0;
     s.aenderungssperre = 0;
     return ergebnis;
+}
+
+int ortwiederherstellen(Sitzung& s) {
+    s.merkmal[0] = pf::int16(s.aktuelleperson - 1);
+    const std::int32_t monat = s.voreinstellung[16].gerundetInt32();
+    if (monat >= 0 && monat <= 12)
+        s.merkmal[20] = static_cast<std::int16_t>(monat);
+    const std::int32_t schicht = s.voreinstellung[14].gerundetInt32();
+    if (schicht < INFO || schicht > REAL)
+        return -1;
+    if (schicht != s.schicht) {
+        s.schicht = static_cast<std::int16_t>(schicht);
+        dateienoeffnen(s);
+    }
+    return schicht;
 }
 
 } // namespace lonvir

@@ -99,4 +99,70 @@ TEST(Starten, PersonNullInDenEinstellungenGiltAlsPersonEins) {
     EXPECT_EQ(o.s.aktuelleperson, 1);
 }
 
+namespace {
+// A .voe record 1 holding only the place: layer, person and month index.
+std::vector<std::uint8_t> voeMitOrt(std::int64_t schicht, std::int64_t person, std::int64_t monat) {
+    test::Satzbild voe(Voeinsatz::laenge);
+    voe.text(0, std::string(260, ' '));
+    voe.waehrung(372, schicht * 10000).waehrung(380, person * 10000).waehrung(388, monat * 10000);
+    return voe.bytes();
+}
+} // namespace
+
+TEST(Ortwiederherstellen, PersonMonatUndSchichtAusDenEinstellungen) {
+    Startordner o;
+    o.datei("Lonvir97.voe", voeMitOrt(PLAN, 4, 7));
+    starten(o.s);
+    ASSERT_EQ(o.s.schicht, INFO); // the start opens the layer it was given
+    EXPECT_EQ(ortwiederherstellen(o.s), PLAN);
+    EXPECT_EQ(o.s.schicht, PLAN);
+    EXPECT_EQ(o.s.datei(1).pfad().filename(), "L1997P.1");
+    EXPECT_EQ(o.s.aktuelleperson, 4);
+    EXPECT_EQ(o.s.merkmal[0], 3); // list position = person - 1
+    EXPECT_EQ(o.s.merkmal[20], 7);
+}
+
+TEST(Ortwiederherstellen, PersonNullIstPersonEinsAufListenplatzNull) {
+    Startordner o;
+    o.datei("Lonvir97.voe", voeMitOrt(INFO, 0, 2));
+    starten(o.s);
+    EXPECT_EQ(ortwiederherstellen(o.s), INFO);
+    EXPECT_EQ(o.s.aktuelleperson, 1);
+    EXPECT_EQ(o.s.merkmal[0], 0);
+    EXPECT_EQ(o.s.merkmal[20], 2);
+}
+
+TEST(Ortwiederherstellen, UnbekannteSchichtZeigtKeineAlsAktiv) {
+    Startordner o;
+    o.s.schicht = REAL;
+    o.datei("Lonvir97.voe", voeMitOrt(3, 2, 13));
+    starten(o.s);
+    EXPECT_EQ(ortwiederherstellen(o.s), -1);
+    EXPECT_EQ(o.s.schicht, REAL);
+    EXPECT_EQ(o.s.datei(1).pfad().filename(), "L1997R.1");
+    EXPECT_EQ(o.s.merkmal[20], 0); // month 13 is no list position: the month stays
+    EXPECT_EQ(o.s.aktuelleperson, 2);
+}
+
+TEST(Ortwiederherstellen, DerNaechsteStartFindetDenOrtDerLetztenSpeicherung) {
+    test::Tempordner ordner;
+    {
+        Sitzung s;
+        s.ordner = Arbeitsordner(ordner.pfad());
+        s.schicht = REAL;
+        starten(s);
+        s.aktuelleperson = 15;
+        s.merkmal[20] = 10;
+        voeschreiben(s);
+    }
+    Sitzung s;
+    s.ordner = Arbeitsordner(ordner.pfad());
+    starten(s);
+    EXPECT_EQ(ortwiederherstellen(s), REAL);
+    EXPECT_EQ(s.aktuelleperson, 15);
+    EXPECT_EQ(s.merkmal[0], 14);
+    EXPECT_EQ(s.merkmal[20], 10);
+    EXPECT_EQ(s.datei(12).pfad().filename(), "L1997R.12");
+}
+
 } // namespace lonvir
