@@ -15,7 +15,7 @@ namespace {
 const char* const aufruf =
     "Aufruf: lonvir97-cli BEFEHL [--ordner DIR] [--jahr 1997|1998] [--schicht INFO|PLAN|REAL]\n"
     "                    [--json] [--ja|--nein] ...\n"
-    "Befehle: anlegen, zeigen, setzen, satz\n";
+    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle\n";
 
 std::filesystem::path standardordner() {
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
@@ -75,6 +75,10 @@ int ausfuehren(int argc, char** argv) {
             befehl = setzen;
         else if (o.befehl() == "satz")
             befehl = satz;
+        else if (o.befehl() == "lohnsteuer")
+            befehl = lohnsteuer;
+        else if (o.befehl() == "tabelle")
+            befehl = tabelle;
         else
             throw Aufruffehler("Unbekannter Befehl: " + o.befehl());
         Kontext k(o);

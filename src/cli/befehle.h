@@ -40,5 +40,11 @@ int anlegen(Kontext& k, std::ostream& aus);
 int zeigen(Kontext& k, std::ostream& aus);
 int setzen(Kontext& k, std::ostream& aus);
 int satz(Kontext& k, std::ostream& aus);
+int lohnsteuer(Kontext& k, std::ostream& aus);
+int tabelle(Kontext& k, std::ostream& aus);
+
+// A count of child allowances, 0 to 7 in steps of 0.5, written "1,5" or "1.5"; missing is 0
+// unless pflicht is set. Anything else is a usage error.
+[[nodiscard]] Currency halbeSchritte(const Optionen& o, const std::string& name, bool pflicht);
 
 } // namespace lonvir::cli

@@ -1,0 +1,111 @@
+// tabelle: one band of the wage-tax table viewer with the six classes.
+#include "cli/befehle.h"
+
+#include "reports/lohnsteuertabelle.h"
+
+#include <iomanip>
+#include <ostream>
+
+namespace lonvir::cli {
+
+namespace {
+
+std::int16_t zeitraumAus(const Optionen& o) {
+    const std::string w = o.pflicht("zeitraum");
+    if (w == "jahr")
+        return 1;
+    if (w == "monat")
+        return 2;
+    if (w == "woche")
+        return 3;
+    if (w == "tag")
+        return 4;
+    throw Aufruffehler("--zeitraum muss jahr, monat, woche oder tag sein, nicht \"" + w + "\".");
+}
+
+Currency kirchensatzAus(const Optionen& o) {
+    if (o.schalter("kirche"))
+        throw Aufruffehler("--kirche erwartet 8 oder 9.");
+    const std::string w = o.wert("kirche").value_or("8");
+    if (w == "8")
+        return Currency::roh(800);
+    if (w == "9")
+        return Currency::roh(900);
+    throw Aufruffehler("--kirche erwartet 8 oder 9, nicht \"" + w + "\".");
+}
+
+Tabellenauswahl auswahlAus(const Optionen& o) {
+    Tabellenauswahl a;
+    a.lohnzeitraum = zeitraumAus(o);
+    a.scrollwert = static_cast<std::int32_t>(o.zahl("stufe", 0, lstrtabScrollMax));
+    a.kinderfreibetraege = halbeSchritte(o, "kinder", false);
+    a.besonderetabelle = o.schalter("beamte") ? 1 : 0;
+    a.altersentlastung = o.schalter("alter") ? 1 : 0;
+    a.kirchensteuersatz = kirchensatzAus(o);
+    return a;
+}
+
+void alsJson(Kontext& k, const Lohnsteuertabelle& t, std::ostream& aus) {
+    Json j;
+    j.objektAnfang()
+        .zahl("zeitraum", t.auswahl.lohnzeitraum)
+        .zahl("stufe", t.auswahl.scrollwert)
+        .zahl("von", t.band.unten.gerundetInt32())
+        .zahl("bis", t.band.oben.gerundetInt32())
+        .roh("kinderfreibetraege", t.auswahl.kinderfreibetraege.text())
+        .zahl("beamte", t.auswahl.besonderetabelle)
+        .zahl("alter", t.auswahl.altersentlastung)
+        .roh("kirchensteuersatz", t.auswahl.kirchensteuersatz.text());
+    j.feldAnfang("klassen");
+    for (int klasse = 1; klasse <= 6; ++klasse) {
+        const Tabellenzeile& z = t.zeilen[klasse];
+        j.objektAnfang()
+            .text("klasse", klassenzeilen[static_cast<std::size_t>(klasse - 1)])
+            .zahl("lohnsteuer", z.lohnsteuer.gerundetInt32())
+            .zahl("solidaritaetszuschlag", z.solidaritaetszuschlag.gerundetInt32())
+            .zahl("kirchensteuer", z.kirchensteuer.gerundetInt32())
+            .objektEnde();
+    }
+    j.feldEnde();
+    k.meldungenAnhaengen(j);
+    aus << j.objektEnde().ergebnis() << "\n";
+}
+
+void alsText(const Lohnsteuertabelle& t, std::ostream& aus) {
+    const Tabellenauswahl& a = t.auswahl;
+    aus << lstrtabTitel << "\n"
+        << lohnzeitraumliste[static_cast<std::size_t>(a.lohnzeitraum - 1)] << ", "
+        << kinderfreibetragseintrag(static_cast<int>(a.kinderfreibetraege.roh() / 5000)) << ", "
+        << tabellenliste[static_cast<std::size_t>(a.besonderetabelle)] << ", "
+        << altersliste[static_cast<std::size_t>(a.altersentlastung)] << ", "
+        << kirchensteuerliste[a.kirchensteuersatz == Currency::roh(800) ? 0 : 1] << "\n"
+        << "von DM " << tabellenbetrag(t.band.unten) << "   bis DM " << tabellenbetrag(t.band.oben)
+        << "\n";
+    aus << std::left << std::setw(8) << tabellenkopf[0] << std::right;
+    for (std::size_t s = 1; s < tabellenkopf.size(); ++s)
+        aus << std::setw(15) << tabellenkopf[s];
+    aus << "\n";
+    for (int klasse = 1; klasse <= 6; ++klasse) {
+        const Tabellenzeile& z = t.zeilen[klasse];
+        aus << std::left << std::setw(8) << klassenzeilen[static_cast<std::size_t>(klasse - 1)]
+            << std::right << std::setw(15) << tabellenbetrag(z.lohnsteuer) << std::setw(15)
+            << tabellenbetrag(z.solidaritaetszuschlag) << std::setw(15)
+            << tabellenbetrag(z.kirchensteuer) << "\n";
+    }
+}
+
+} // namespace
+
+int tabelle(Kontext& k, std::ostream& aus) {
+    k.optionen.nurErlaubt({"zeitraum", "stufe", "kinder", "beamte", "alter", "kirche"});
+    Lohnsteuertabelle t;
+    t.auswahl = auswahlAus(k.optionen);
+    tabellefuellen(t);
+    if (k.json)
+        alsJson(k, t, aus);
+    else
+        alsText(t, aus);
+    return 0;
+}
+
+} // namespace lonvir::cli
