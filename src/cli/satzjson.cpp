@@ -74,7 +74,7 @@ bool istKvsatz(long nummer) {
 void kvsatz(Json& j, long nummer, std::span<const std::uint8_t> b) {
     const Kvsatz k = Kvsatz::lesen(b);
     j.zahl("jahr", nummer <= 14 ? 1997 : 1998).zahl("monat", (nummer - 3) % 12 + 1);
-    feld(j, "kvsatz", k.satz); // hundredths of a percent, by fund 0..27
+    feldJson(j, "kvsatz", k.satz); // hundredths of a percent, by fund 0..27
 }
 
 void voeinsatz(Json& j, std::span<const std::uint8_t> b) {
@@ -142,7 +142,7 @@ std::string satzAlsJson(Satzart art, const std::string& datei, long nummer,
         break;
     case Satzart::tarifsatz:
         j.text("satzart", "Tarifsatz");
-        feld(j, "wert", Tarifsatz::lesen(b).wert);
+        feldJson(j, "wert", Tarifsatz::lesen(b).wert);
         break;
     case Satzart::dimsatz:
         if (istKvsatz(nummer)) {
