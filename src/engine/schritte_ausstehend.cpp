@@ -12,7 +12,6 @@ void urlaubsgeld(Sitzung&) {}
 void zuwendung(Sitzung&) {}
 void monatssteuer(Sitzung&) {}
 void kindergeld(Sitzung&) {}
-void sozialversicherung(Sitzung&) {}
 void stufeausbda(Sitzung&) {}
 
 } // namespace lonvir
