@@ -103,6 +103,11 @@ struct Sitzung {
     std::int32_t laufenderlohn = 0;  // taxable current wage of the month, Pfennig
     std::int32_t einmallohn = 0;     // taxable one-off wage above 300.00 DM, Pfennig
     Currency steuerlohn;             // taxable wage, grossed up to a full month
+    // The working limits of the supplementary pension, Pfennig.
+    std::int32_t pauschgrenze = 0, entgeltgrenze = 0, freianteil = 0, svanteil = 0;
+    std::int32_t stufengrenze = 0;
+    // The employee's care-insurance factor; a selection without its own keeps the last one.
+    Currency pvfaktor;
 
     // --- flags of the screen and the driver
     std::int16_t aenderungssperre = 0;

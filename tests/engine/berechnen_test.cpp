@@ -157,9 +157,18 @@ TEST_F(Maerz, ArbeitgeberUebernimmtDieSteuern) {
     s.merkmal[32] = 1;
     s.eingabe[36] = -500;
     s.eingabe[12] = 10000;
+    // In a follow-up run the share stays where step 23 put it.
+    s.folgelauf = 1;
     rechnen();
     EXPECT_EQ(s.wert[36], 0);
     EXPECT_EQ(s.nebenwert[6], 500);
+    EXPECT_EQ(s.wert[45], 10000);
+    // In the edited month the levy of a civil servant runs once more at the end and clears
+    // nebenwert(0..6) again, the employer's tax shares with it.
+    s.folgelauf = 0;
+    rechnen();
+    EXPECT_EQ(s.wert[36], 0);
+    EXPECT_EQ(s.nebenwert[6], 0);
     EXPECT_EQ(s.wert[45], 10000);
     s.merkmal[32] = 0;
     rechnen();
