@@ -15,6 +15,5 @@ void zvk_berechnen(Sitzung&) {}
 void monatssteuer(Sitzung&) {}
 void kindergeld(Sitzung&) {}
 void sozialversicherung(Sitzung&) {}
-void stufeausbda(Sitzung&) {}
 
 } // namespace lonvir
