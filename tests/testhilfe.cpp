@@ -2,6 +2,7 @@
 #include "testhilfe.h"
 
 #include "core/arbeitsordner.h"
+#include "engine/tarifdatei.h"
 #include "start/dateisatz.h"
 #include "start/start.h"
 
@@ -40,6 +41,14 @@ LeereUmgebung::LeereUmgebung(std::int16_t schicht) {
     s.dialoge = &dialoge;
     s.schicht = schicht;
     dateienoeffnen(s);
+}
+
+void ueberstundensatzsetzen(Sitzung& s, std::int32_t pfennig) {
+    const int nummer = tarifsatznummer(s);
+    const int datei = tarifdatei(s);
+    Tarifsatz t = tarifsatz(s, nummer, datei);
+    t.wert[26] = pfennig;
+    tarifsatzschreiben(s, nummer, datei, t);
 }
 
 std::string dateiinhalt(const fs::path& ordner, const std::string& name) {

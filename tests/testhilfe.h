@@ -40,6 +40,10 @@ struct LeereUmgebung {
     Sitzung s;
 };
 
+// Writes the overtime rate (element 26) of the current person's tariff line of the month;
+// the rate comes from the tariff on every full run, so a typed rate does not hold.
+void ueberstundensatzsetzen(Sitzung& s, std::int32_t pfennig);
+
 // The bytes of a file of the folder, matched without regard to case.
 [[nodiscard]] std::string dateiinhalt(const std::filesystem::path& ordner, const std::string& name);
 

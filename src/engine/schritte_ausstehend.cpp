@@ -4,14 +4,9 @@
 
 namespace lonvir {
 
-void tarifwerte(Sitzung&) {}
-void ueberleitungsbasis(Sitzung&) {}
-void ueberleitungszulage(Sitzung&) {}
-void vwlzeile(Sitzung&) {}
 void urlaubsgeld(Sitzung&) {}
 void zuwendung(Sitzung&) {}
 void monatssteuer(Sitzung&) {}
 void kindergeld(Sitzung&) {}
-void stufeausbda(Sitzung&) {}
 
 } // namespace lonvir

@@ -82,7 +82,7 @@ TEST_F(Maerz, BezahlteTageKuerzenNurZeilenMitBru) {
     s.eingabe[3] = 1500;
     s.eingabe[12] = 10000;
     s.eingabe[4] = 200;
-    s.eingabe[5] = 2550;
+    test::ueberstundensatzsetzen(s, 2550);
     rechnen();
     EXPECT_EQ(s.tagefaktor, 0.5f);
     EXPECT_EQ(s.wert[16], 5100);
@@ -244,7 +244,7 @@ TEST_F(Maerz, UeberlaufBeiUeberstundenIstFehler6UndSpeichertNichts) {
     s.eingabe[12] = 10000;
     rechnen();
     s.eingabe[4] = 100000;
-    s.eingabe[5] = 100000; // 10^10 does not fit in 32 bits
+    test::ueberstundensatzsetzen(s, 100000); // 10^10 does not fit in 32 bits
     try {
         rechnen();
         FAIL();

@@ -43,8 +43,8 @@ TEST_F(Folgemonate, GetippterBetragImMaerzReichtBisDezember) {
 
 TEST_F(Folgemonate, UeberstundenUndEinmalzahlungenBleibenImMonat) {
     laden(2);
-    betragbestaetigen(s, 5, 2550); // the overtime rate spreads like any typed row
-    betragbestaetigen(s, 4, 200);  // 2 hours: row 16 = 200 * 2550 / 100 = 5100
+    test::ueberstundensatzsetzen(s, 2550); // the rate comes from the tariff line
+    betragbestaetigen(s, 4, 200);          // 2 hours: row 16 = 200 * 2550 / 100 = 5100
     EXPECT_EQ(monat(3).wert[4], 200);
     EXPECT_EQ(monat(3).wert[16], 5100);
     EXPECT_EQ(monat(4).wert[4], 0);
