@@ -8,12 +8,8 @@ void tarifwerte(Sitzung&) {}
 void ueberleitungsbasis(Sitzung&) {}
 void ueberleitungszulage(Sitzung&) {}
 void vwlzeile(Sitzung&) {}
-void urlaubsgeld(Sitzung&) {}
-void zuwendung(Sitzung&) {}
 void umlage_beamte(Sitzung&) {}
 void zvk_berechnen(Sitzung&) {}
-void monatssteuer(Sitzung&) {}
-void kindergeld(Sitzung&) {}
 void sozialversicherung(Sitzung&) {}
 void stufeausbda(Sitzung&) {}
 

@@ -6,6 +6,7 @@
 #include "core/dialoge.h"
 #include "core/feld.h"
 #include "core/satzdatei.h"
+#include "engine/lohnsteuer.h"
 #include "records/dimsatz.h"
 #include "records/personalsatz.h"
 #include "records/voeinsatz.h"
@@ -103,6 +104,10 @@ struct Sitzung {
     std::int32_t laufenderlohn = 0;  // taxable current wage of the month, Pfennig
     std::int32_t einmallohn = 0;     // taxable one-off wage above 300.00 DM, Pfennig
     Currency steuerlohn;             // taxable wage, grossed up to a full month
+    // The wage tax of the month (steps 20 and 21).
+    Lohnsteuerlauf lohnsteuerlauf; // inputs, outputs and working values of the last run
+    Currency kirchensatz;          // 0.08, 0.09 or 0
+    std::int32_t grenzsatz = 0;    // marginal rate of the wage, percent; shown, read by no step
 
     // --- flags of the screen and the driver
     std::int16_t aenderungssperre = 0;
