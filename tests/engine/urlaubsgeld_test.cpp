@@ -1,5 +1,9 @@
 // Row 17, Urlaubsgeld: July only, 650 or 500 DM by staff class and group, the Ost at 500 DM.
+#include "engine/berechnen.h"
+#include "engine/monatladen.h"
 #include "engine/schritte.h"
+#include "start/satzzugriff.h"
+#include "testhilfe.h"
 
 #include <gtest/gtest.h>
 
@@ -64,6 +68,19 @@ TEST(Urlaubsgeld, GetipptImJuliMitZweitemEintrag) {
 TEST(Urlaubsgeld, KlasseOhneBleibtUnberuehrt) {
     // Staff class 18 is not run: the row stays as it was (the run clears it later).
     EXPECT_EQ(urlaubsgeldFuer(18, 0), 12345);
+}
+
+TEST(Urlaubsgeld, KraftfahrerOstImLaufDesJuli) {
+    // Through the run: person 1 in July, staff class 10 in the Ost; row 17 is paid and stored.
+    test::Umgebung u;
+    monatladen(u.s, 1, 6);
+    u.s.merkmal[4] = 10;
+    u.s.merkmal[2] = 1;
+    u.s.merkmal[33] = 49;
+    u.s.aenderungscode = 0;
+    berechnen(u.s);
+    EXPECT_EQ(u.s.wert[17], 50000);
+    EXPECT_EQ(personalsatzlesen(u.s, 7, 1).wert[17], 50000);
 }
 
 } // namespace lonvir
