@@ -6,6 +6,7 @@
 #include "core/dialoge.h"
 #include "core/feld.h"
 #include "core/satzdatei.h"
+#include "engine/lohnsteuer.h"
 #include "records/dimsatz.h"
 #include "records/personalsatz.h"
 #include "records/voeinsatz.h"
@@ -129,6 +130,10 @@ struct Sitzung {
     std::int32_t stufengrenze = 0;
     // The employee's care-insurance factor; a selection without its own keeps the last one.
     Currency pvfaktor;
+    // The wage tax of the month (steps 20 and 21).
+    Lohnsteuerlauf lohnsteuerlauf; // inputs, outputs and working values of the last run
+    Currency kirchensatz;          // 0.08, 0.09 or 0
+    std::int32_t grenzsatz = 0;    // marginal rate of the wage, percent; shown, read by no step
 
     // --- flags of the screen and the driver
     std::int16_t aenderungssperre = 0;

@@ -153,6 +153,9 @@ TEST_F(Maerz, AuszahlungIstBruttoPlusZeilen33Bis44) {
 
 TEST_F(Maerz, ArbeitgeberUebernimmtDieSteuern) {
     // Church tax typed (-5.00 DM in row 36) and taken over by the employer (row 32 at 1).
+    // The wage tax runs (class I, 100 DM bear no tax): with "keine Lohnsteuer" rows 33, 35
+    // and 36 are all 0, the typed church tax included.
+    s.merkmal[33] = 0;
     s.merkmal[36] = 2;
     s.merkmal[32] = 1;
     s.eingabe[36] = -500;

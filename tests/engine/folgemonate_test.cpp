@@ -59,9 +59,13 @@ TEST_F(Folgemonate, UeberstundenUndEinmalzahlungenBleibenImMonat) {
     EXPECT_EQ(monat(12).wert[19], 0);
     EXPECT_EQ(s.eingabe[19], 0);
 
+    // Row 18 is kept only in the month of the Zuwendung (November for an employee) and
+    // cleared in every other, typed or not.
+    laden(10);
+    s.merkmal[4] = 5;
     betragbestaetigen(s, 18, 70000);
-    EXPECT_EQ(monat(3).wert[18], 70000);
-    EXPECT_EQ(monat(4).wert[18], 0);
+    EXPECT_EQ(monat(11).wert[18], 70000);
+    EXPECT_EQ(monat(12).wert[18], 0);
     EXPECT_EQ(s.eingabe[18], 70000);
 }
 
