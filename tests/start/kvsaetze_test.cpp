@@ -39,7 +39,7 @@ struct Kvordner {
 
 } // namespace
 
-TEST(Kvsatznummer, Drei_bis_VierzehnFuer1997FuenfzehnBisSechsundzwanzigSonst) {
+TEST(Kvsatznummer, DreiBisVierzehnFuer1997FuenfzehnBisSechsundzwanzigSonst) {
     Sitzung s;
     s.jahr = 1997;
     EXPECT_EQ(kvsatznummer(s, 0), 3);
