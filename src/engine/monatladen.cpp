@@ -2,6 +2,7 @@
 #include "engine/monatladen.h"
 
 #include "engine/berechnen.h"
+#include "screen/stufenliste.h"
 #include "start/satzzugriff.h"
 
 namespace lonvir {
@@ -17,6 +18,9 @@ void monatladen(Sitzung& s, std::int16_t person, std::int16_t monatsindex) {
     } else {
         satzlesen(s);
         eingabewerte(s);
+        // The step list is rebuilt with the month, and with it the step from the service age.
+        stufenliste(s);
+        stufeklemmen(s);
     }
     s.aenderungscode = 0;
     berechnen(s);

@@ -12,6 +12,5 @@ void urlaubsgeld(Sitzung&) {}
 void zuwendung(Sitzung&) {}
 void monatssteuer(Sitzung&) {}
 void kindergeld(Sitzung&) {}
-void stufeausbda(Sitzung&) {}
 
 } // namespace lonvir

@@ -3,6 +3,7 @@
 
 #include "engine/berechnen.h"
 #include "engine/schritte.h"
+#include "screen/stufenliste.h"
 #include "start/texte.h"
 
 #include <cctype>
@@ -58,14 +59,13 @@ void personumbenennen(Sitzung& s, const std::string& name) {
 void bdabestaetigen(Sitzung& s, const std::string& text) {
     if (jahresgehaltgesperrt(s))
         return;
-    if (text.empty() && s.merkmal[1] <= 1 && s.dialoge) {
+    // An empty box is told off, and then emptied like any other text that is no date.
+    if (text.empty() && s.merkmal[1] <= 1 && s.dialoge)
         s.dialoge->zeigen({"BDA-Beginn",
                            "Ohne Eingabe des Beginns des Besoldungs-/Vergütungsdienstalters kann "
                            "keine Gehaltsberechnung durchgeführt werden. In der Regel ist dies der "
                            "Monat, in dem der 21. Geburtstag liegt.",
                            Symbol::ausruf, Knoepfe::ok});
-        return;
-    }
     const bool gueltig = text.size() == 7 && text[2] == '.' && text[3] == '1' && text[4] == '9' &&
                          std::isdigit(static_cast<unsigned char>(text[0])) &&
                          std::isdigit(static_cast<unsigned char>(text[1])) &&
@@ -78,6 +78,8 @@ void bdabestaetigen(Sitzung& s, const std::string& text) {
     }
     s.bdabeginn = text;
     stufeausbda(s);
+    // The list takes the step found; beyond its end the last entry, below its start the first.
+    stufeklemmen(s);
     neuberechnen(s, 7);
 }
 

@@ -55,6 +55,23 @@ struct Einstellungswerte {
     Feld<Currency, 0, 3> zuwendungsquote;
 };
 
+// The step list of row 7 as it stands: "Festes Grundgehalt" in front where set, then the text
+// records anfang..ende. A rebuild that sets no end keeps the end of the list before it.
+struct Stufenliste {
+    bool festesGrundgehalt = false;
+    bool mitTexten = false;
+    std::int16_t anfang = 0;
+    std::int16_t ende = 0;
+    bool aktiv = true;
+
+    [[nodiscard]] int eintraege() const {
+        const int texte = mitTexten && ende >= anfang ? ende - anfang + 1 : 0;
+        return (festesGrundgehalt ? 1 : 0) + texte;
+    }
+    // -1 for an empty list, as a list box reports it.
+    [[nodiscard]] int letzteposition() const { return eintraege() - 1; }
+};
+
 struct Sitzung {
     Sitzung() = default;
     Sitzung(const Sitzung&) = delete;
@@ -122,6 +139,7 @@ struct Sitzung {
     std::int16_t jahressperre = 0; // set while the year view stands
     std::int16_t folgesperre = 0;  // set by a caller that wants no follow-up months
     std::int16_t zeile9aktiv = 1;  // row 9's list can be used
+    Stufenliste stufen;            // the list z(7) of the steps
 
     // --- settings
     Dimsatz dim; // row colours, window places, start lock, as working values

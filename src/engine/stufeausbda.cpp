@@ -1,0 +1,79 @@
+// The pay step from the start of the service age: a step every two years, and for
+// Besoldungsordnung A from July 1997 the ladder of two, three and four years.
+#include "core/pfennig.h"
+#include "engine/schritte.h"
+
+#include <cctype>
+#include <string_view>
+
+namespace lonvir {
+
+namespace {
+
+bool ohneDienstalter(int art) {
+    return art == 4 || (art >= 8 && art <= 12) || art == 16 || art == 17;
+}
+
+bool leer(std::string_view text) {
+    for (char c : text)
+        if (c != ' ')
+            return false;
+    return true;
+}
+
+// A number read from the front of a text as the runtime's Val reads it: leading blanks,
+// then digits up to the first other character; nothing readable is 0.
+double zahlgelesen(std::string_view text) {
+    std::size_t i = 0;
+    while (i < text.size() && text[i] == ' ')
+        ++i;
+    double zahl = 0;
+    while (i < text.size() && std::isdigit(static_cast<unsigned char>(text[i])))
+        zahl = zahl * 10 + (text[i++] - '0');
+    return zahl;
+}
+
+// From July 1997 Besoldungsordnung A climbs after 2, 2, 2, 2, 3, 3, 3, 3, 4, 4, 4 years.
+std::int16_t leiterstufe(int monate) {
+    constexpr int grenzen[] = {24, 48, 72, 96, 132, 168, 204, 240, 288, 336, 384};
+    std::int16_t stufe = 0;
+    for (int grenze : grenzen)
+        if (monate > grenze)
+            ++stufe;
+    return stufe;
+}
+
+} // namespace
+
+void stufeausbda(Sitzung& s) {
+    const int art = s.personalart();
+    if (ohneDienstalter(art))
+        return;
+    if (s.merkmal[1] > 1) {
+        // The step is given by hand: the list is open and the start of the service age empty.
+        s.stufen.aktiv = true;
+        s.bdabeginn = std::string(7, ' ');
+        return;
+    }
+    if (leer(s.bdabeginn)) {
+        s.merkmal[7] = 0;
+        return;
+    }
+    const bool leiter = art == 0 && (s.merkmal[20] > 5 || !s.ist1997());
+    const int monatsnummer = s.merkmal[20] + 1 + (s.ist1997() ? 0 : 12);
+    const std::string_view text = s.bdabeginn;
+    const double mm = zahlgelesen(text.substr(0, 2));
+    const double jj = zahlgelesen(text.size() > 2 ? text.substr(text.size() - 2) : text);
+    const std::int16_t dienstmonate = pf::gerundet16((97 - jj) * 12 - mm + monatsnummer);
+    s.merkmal[7] = static_cast<std::int16_t>(dienstmonate / 24);
+    if (s.merkmal[7] > s.stufen.letzteposition())
+        s.merkmal[7] = static_cast<std::int16_t>(s.stufen.letzteposition());
+    if (!leiter)
+        return;
+    // The ladder is not held to the list here; the refresh of the screen cuts it.
+    const int monate = dienstmonate + 1;
+    if (monate >= 0)
+        s.merkmal[7] = leiterstufe(monate);
+}
+
+} // namespace lonvir
