@@ -7,7 +7,6 @@ namespace lonvir {
 void tarifwerte(Sitzung&) {}
 void ueberleitungsbasis(Sitzung&) {}
 void ueberleitungszulage(Sitzung&) {}
-void vwlzeile(Sitzung&) {}
 void urlaubsgeld(Sitzung&) {}
 void zuwendung(Sitzung&) {}
 void monatssteuer(Sitzung&) {}
