@@ -4,7 +4,6 @@
 
 namespace lonvir {
 
-void tarifwerte(Sitzung&) {}
 void ueberleitungsbasis(Sitzung&) {}
 void ueberleitungszulage(Sitzung&) {}
 void urlaubsgeld(Sitzung&) {}

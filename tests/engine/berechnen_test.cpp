@@ -2,6 +2,7 @@
 #include "core/laufzeitfehler.h"
 #include "engine/berechnen.h"
 #include "engine/monatladen.h"
+#include "engine/tarifdatei.h"
 #include "start/satzzugriff.h"
 #include "testhilfe.h"
 
@@ -26,6 +27,12 @@ struct Maerz : ::testing::Test {
         berechnen(s);
     }
     Personalsatz gespeichert() { return personalsatzlesen(s, 3, 1); }
+    // The overtime rate comes from the tariff: a line for group 0 with element 26 alone.
+    void ueberstundensatz(std::int32_t pfennig) {
+        Tarifsatz t;
+        t.wert[26] = pfennig;
+        tarifsatzschreiben(s, 1, datei::tarif1, t);
+    }
 };
 
 } // namespace
@@ -82,7 +89,7 @@ TEST_F(Maerz, BezahlteTageKuerzenNurZeilenMitBru) {
     s.eingabe[3] = 1500;
     s.eingabe[12] = 10000;
     s.eingabe[4] = 200;
-    s.eingabe[5] = 2550;
+    ueberstundensatz(2550);
     rechnen();
     EXPECT_EQ(s.tagefaktor, 0.5f);
     EXPECT_EQ(s.wert[16], 5100);
@@ -244,7 +251,7 @@ TEST_F(Maerz, UeberlaufBeiUeberstundenIstFehler6UndSpeichertNichts) {
     s.eingabe[12] = 10000;
     rechnen();
     s.eingabe[4] = 100000;
-    s.eingabe[5] = 100000; // 10^10 does not fit in 32 bits
+    ueberstundensatz(100000); // 10^10 does not fit in 32 bits
     try {
         rechnen();
         FAIL();

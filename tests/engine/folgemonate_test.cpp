@@ -1,6 +1,7 @@
 // The later months follow an edit with the working set carried forward.
 #include "engine/berechnen.h"
 #include "engine/monatladen.h"
+#include "engine/tarifdatei.h"
 #include "screen/eingabe.h"
 #include "start/satzzugriff.h"
 #include "testhilfe.h"
@@ -42,9 +43,12 @@ TEST_F(Folgemonate, GetippterBetragImMaerzReichtBisDezember) {
 }
 
 TEST_F(Folgemonate, UeberstundenUndEinmalzahlungenBleibenImMonat) {
+    // The overtime rate is the tariff's: a line for group 0 with element 26 alone.
+    Tarifsatz satz;
+    satz.wert[26] = 2550;
+    tarifsatzschreiben(s, 1, datei::tarif1, satz);
     laden(2);
-    betragbestaetigen(s, 5, 2550); // the overtime rate spreads like any typed row
-    betragbestaetigen(s, 4, 200);  // 2 hours: row 16 = 200 * 2550 / 100 = 5100
+    betragbestaetigen(s, 4, 200); // 2 hours: row 16 = 200 * 2550 / 100 = 5100
     EXPECT_EQ(monat(3).wert[4], 200);
     EXPECT_EQ(monat(3).wert[16], 5100);
     EXPECT_EQ(monat(4).wert[4], 0);
