@@ -4,8 +4,6 @@
 
 namespace lonvir {
 
-void ueberleitungsbasis(Sitzung&) {}
-void ueberleitungszulage(Sitzung&) {}
 void urlaubsgeld(Sitzung&) {}
 void zuwendung(Sitzung&) {}
 void monatssteuer(Sitzung&) {}

@@ -1,9 +1,9 @@
 // The pay step from the start of the service age: a step every two years, and for
 // Besoldungsordnung A from July 1997 the ladder of two, three and four years.
 #include "core/pfennig.h"
+#include "engine/bdabeginn.h"
 #include "engine/schritte.h"
 
-#include <cctype>
 #include <string_view>
 
 namespace lonvir {
@@ -19,18 +19,6 @@ bool leer(std::string_view text) {
         if (c != ' ')
             return false;
     return true;
-}
-
-// A number read from the front of a text as the runtime's Val reads it: leading blanks,
-// then digits up to the first other character; nothing readable is 0.
-double zahlgelesen(std::string_view text) {
-    std::size_t i = 0;
-    while (i < text.size() && text[i] == ' ')
-        ++i;
-    double zahl = 0;
-    while (i < text.size() && std::isdigit(static_cast<unsigned char>(text[i])))
-        zahl = zahl * 10 + (text[i++] - '0');
-    return zahl;
 }
 
 // From July 1997 Besoldungsordnung A climbs after 2, 2, 2, 2, 3, 3, 3, 3, 4, 4, 4 years.
@@ -61,9 +49,8 @@ void stufeausbda(Sitzung& s) {
     }
     const bool leiter = art == 0 && (s.merkmal[20] > 5 || !s.ist1997());
     const int monatsnummer = s.merkmal[20] + 1 + (s.ist1997() ? 0 : 12);
-    const std::string_view text = s.bdabeginn;
-    const double mm = zahlgelesen(text.substr(0, 2));
-    const double jj = zahlgelesen(text.size() > 2 ? text.substr(text.size() - 2) : text);
+    const double mm = bdamonat(s.bdabeginn);
+    const double jj = bdajahr(s.bdabeginn);
     const std::int16_t dienstmonate = pf::gerundet16((97 - jj) * 12 - mm + monatsnummer);
     s.merkmal[7] = static_cast<std::int16_t>(dienstmonate / 24);
     if (s.merkmal[7] > s.stufen.letzteposition())

@@ -110,6 +110,9 @@ struct Sitzung {
     Feld<std::int32_t, 0, 27> zvkwert;
     Feld<std::int32_t, 0, 26> tarifwert;
     std::int16_t oz_sonder = 0;
+    // The bases of the transition allowance: the March 1997 and the July 1997 pay, Pfennig.
+    std::int32_t basis_alt = 0;
+    std::int32_t basis_neu = 0;
     // Sums of the paid rows (step 13 of the run), Pfennig.
     std::int32_t steuerbrutto = 0; // rows subject to wage tax
     std::int32_t svbrutto = 0;     // rows subject to social insurance
