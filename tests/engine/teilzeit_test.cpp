@@ -1,6 +1,10 @@
 // Part-time pay: rows 7 to 19 after the part-time factor, the Ortszuschlag of a person whose
 // spouse is in the public service, and the VWL of civil servants.
+#include "engine/monatladen.h"
 #include "engine/schritte.h"
+#include "start/satzzugriff.h"
+#include "tarifhilfe.h"
+#include "testhilfe.h"
 
 #include <gtest/gtest.h>
 
@@ -209,6 +213,59 @@ TEST(Teilzeit, OhnePersonalartBleibtDieVwlVomLetztenLauf) {
     s.teilwert[15] = Currency::ganz(99);
     teilzeit(s);
     EXPECT_EQ(s.teilwert[15], Currency::ganz(99));
+}
+
+} // namespace lonvir
+
+// The same rules in a run of the month, with the Ortszuschlag from a tariff line.
+namespace lonvir {
+
+namespace {
+
+// Person 1 in June 1997, Besoldungsordnung A group 8, "vh, 0 Ki", with `normal` and `teilzeit`
+// weekly hours; the test line lies in the first tariff file (stage 1 80000, married 15001).
+void teilzeitmonat(test::Umgebung& u, std::int32_t normal, std::int32_t teilzeit,
+                   std::int16_t ehegatte, std::int16_t vwl) {
+    Sitzung& s = u.s;
+    test::tarifzeile(s, datei::tarif1, 9, test::testsatz());
+    Personalsatz juni = personalsatzlesen(s, 6, 1);
+    juni.merkmal[4] = 0;
+    juni.merkmal[5] = 8;
+    juni.merkmal[3] = ehegatte;
+    juni.merkmal[8] = 1;
+    juni.merkmal[15] = vwl;
+    juni.wert[0] = normal;
+    juni.wert[1] = teilzeit;
+    juni.tei[8] = 1;
+    personalsatzschreiben(s, 6, 1, juni);
+    monatladen(s, 1, 5);
+}
+
+} // namespace
+
+TEST(TeilzeitImLauf, VollzeitMitEhegatteUnter50GibtSonderteilGleichZeile8) {
+    test::Umgebung u;
+    teilzeitmonat(u, 4000, 4000, 3, 0);
+    // Row 8: 80000 + 15001 / 2 = 87500.5 -> 87500 (spouse "ja < 50%" halves the married part).
+    EXPECT_EQ(u.s.wert[8], 87500);
+    // Factor 1 with "ja < 50%": the special rule, 87500 - 80000 + 1 * 80000 = 87500.
+    EXPECT_EQ(u.s.oz_sonder, 1);
+    EXPECT_EQ(u.s.teilwert[8], Currency::ganz(87500));
+}
+
+TEST(TeilzeitImLauf, EhegatteUeber49MitHalberStelle) {
+    test::Umgebung u;
+    teilzeitmonat(u, 4000, 2000, 2, 0);
+    // 87500 - 80000 + 0.5 * 80000 = 47500, not 87500 * 0.5 = 43750.
+    EXPECT_EQ(u.s.oz_sonder, 1);
+    EXPECT_EQ(u.s.teilwert[8], Currency::ganz(47500));
+}
+
+TEST(TeilzeitImLauf, BeamterMitDreiViertelStelleUndVwl1300Bekommt650) {
+    test::Umgebung u;
+    teilzeitmonat(u, 4000, 3000, 0, 2);
+    EXPECT_EQ(u.s.wert[15], 1300);
+    EXPECT_EQ(u.s.teilwert[15], Currency::ganz(650));
 }
 
 } // namespace lonvir
