@@ -3,6 +3,7 @@
 #include "core/pfennig.h"
 #include "engine/bdabeginn.h"
 #include "engine/schritte.h"
+#include "screen/stufenliste.h"
 
 #include <string_view>
 
@@ -31,6 +32,15 @@ std::int16_t leiterstufe(int monate) {
     return stufe;
 }
 
+// The list z(7) as it stands; before any list was built in the session, the one the table
+// gives for the person, so that the step is cut as the screen would cut it.
+Stufenliste stufenlisteOderTabelle(const Sitzung& s) {
+    if (s.stufen.gebaut)
+        return s.stufen;
+    const bool reform = !s.ist1997() || s.merkmal[20] >= 6;
+    return stufenlistefuer(s.personalart(), s.merkmal[5], reform, s.stufen);
+}
+
 } // namespace
 
 void stufeausbda(Sitzung& s) {
@@ -53,8 +63,9 @@ void stufeausbda(Sitzung& s) {
     const double jj = bdajahr(s.bdabeginn);
     const std::int16_t dienstmonate = pf::gerundet16((97 - jj) * 12 - mm + monatsnummer);
     s.merkmal[7] = static_cast<std::int16_t>(dienstmonate / 24);
-    if (s.merkmal[7] > s.stufen.letzteposition())
-        s.merkmal[7] = static_cast<std::int16_t>(s.stufen.letzteposition());
+    const Stufenliste liste = stufenlisteOderTabelle(s);
+    if (liste.gebaut && s.merkmal[7] > liste.letzteposition())
+        s.merkmal[7] = static_cast<std::int16_t>(liste.letzteposition());
     if (!leiter)
         return;
     // The ladder is not held to the list here; the refresh of the screen cuts it.

@@ -14,6 +14,7 @@ constexpr const char* festesGrundgehalt = "Festes Grundgehalt";
 
 Stufenliste texte(std::int16_t anfang, std::int16_t ende) {
     Stufenliste l;
+    l.gebaut = true;
     l.mitTexten = true;
     l.anfang = anfang;
     l.ende = ende;
@@ -133,6 +134,7 @@ Stufenliste stufenlistefuer(int personalart, int gruppe, bool reform, const Stuf
     case 1:
         // Besoldungsordnung B has a fixed pay only; the list cannot be used.
         l = vorher;
+        l.gebaut = true;
         l.festesGrundgehalt = true;
         l.mitTexten = false;
         l.aktiv = false;

@@ -58,6 +58,7 @@ struct Einstellungswerte {
 // The step list of row 7 as it stands: "Festes Grundgehalt" in front where set, then the text
 // records anfang..ende. A rebuild that sets no end keeps the end of the list before it.
 struct Stufenliste {
+    bool gebaut = false; // no list has been built yet in this session
     bool festesGrundgehalt = false;
     bool mitTexten = false;
     std::int16_t anfang = 0;

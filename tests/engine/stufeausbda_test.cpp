@@ -165,3 +165,25 @@ TEST(Stufeausbda, FolgemonateRueckenDieStufeImJuliVonSelbstWeiter) {
 }
 
 } // namespace lonvir
+
+namespace lonvir {
+
+TEST(Stufeausbda, OhneGebauteListeSchneidetDieTabelleDerPerson) {
+    Sitzung s;
+    // No list built yet: BAT group 0 has 14 steps; 01.1971 in July 1997, 318 months -> 13.
+    s.merkmal[4] = 5;
+    s.merkmal[20] = 6;
+    s.bdabeginn = "01.1971";
+    stufeausbda(s);
+    EXPECT_EQ(s.merkmal[7], 13);
+    // Group 20 has 9 steps: cut to 8.
+    s.merkmal[5] = 20;
+    stufeausbda(s);
+    EXPECT_EQ(s.merkmal[7], 8);
+    // "ohne" has no list of its own: nothing to cut against.
+    s.merkmal[4] = 18;
+    stufeausbda(s);
+    EXPECT_EQ(s.merkmal[7], 13);
+}
+
+} // namespace lonvir
