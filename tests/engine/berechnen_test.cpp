@@ -2,6 +2,7 @@
 #include "core/laufzeitfehler.h"
 #include "engine/berechnen.h"
 #include "engine/monatladen.h"
+#include "engine/tarifdatei.h"
 #include "start/satzzugriff.h"
 #include "testhilfe.h"
 

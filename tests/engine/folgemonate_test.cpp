@@ -1,6 +1,7 @@
 // The later months follow an edit with the working set carried forward.
 #include "engine/berechnen.h"
 #include "engine/monatladen.h"
+#include "engine/tarifdatei.h"
 #include "screen/eingabe.h"
 #include "start/satzzugriff.h"
 #include "testhilfe.h"
