@@ -436,4 +436,54 @@ TEST_F(Versicherung, PersonalartOhneBehaeltDenGetipptenZuschussNachDemZweitenLau
     EXPECT_EQ(s.wert[37], 0);
 }
 
+TEST_F(Versicherung, TeilzeitImHalbenMonatVonBruttoBisAuszahlung) {
+    // Person 1 in March, an employee at 19.25 of 38.50 hours, paid for 15 of 30 days, with
+    // 5000.00 DM at full time in row 12, supplementary pension 4.5 %, no wage tax, no church
+    // tax. The fund: ceiling 10000 DM, surcharge from 7000 DM; church tax on its lump tax 9 %.
+    s.vorgabewert[2] = 7000;
+    s.vorgabewert[6] = 10000;
+    s.voreinstellung[28] = Currency::ganz(9);
+    aktualisieren(s);
+    monatladen(s, 1, 2);
+    s.merkmal[4] = 5;
+    s.merkmal[33] = 49;
+    s.merkmal[36] = 2;
+    s.eingabe[0] = 3850;
+    s.eingabe[1] = 1925;
+    s.eingabe[2] = 3000;
+    s.eingabe[3] = 1500;
+    s.eingabe[12] = 500000;
+    s.eingabe[25] = 450;
+    s.aenderungscode = 0;
+    berechnen(s);
+    // Both factors 0.5: teilwert(12) 250000, zahlwert(12) and row 22 125000.
+    EXPECT_EQ(s.wert[22], 125000);
+    // Pension: limits 8750, 500000 and 350000; contribution 0.045 * 125000 = 5625, all of it
+    // lump-taxed (entgeltgrenze 8750 / 0.045 = 194444); insured part 125000 * 0.025 = 3125
+    // less 2600 = 525; lump tax 1125, its church tax 101.25 -> 101, surcharge 84.375 -> 84.
+    EXPECT_EQ(s.zvkwert[6], 500000);
+    EXPECT_EQ(s.stufengrenze, 350000);
+    EXPECT_EQ(s.wert[31], 5625);
+    EXPECT_EQ(s.zvkwert[18], 525);
+    EXPECT_EQ(s.wert[6], 101);
+    EXPECT_EQ(s.wert[32], 1209);
+    // Insurance: 125000 + 525 = 125525, under the halved ceilings 307500 and 410000.
+    // January and February are empty: 2 * 615000 + 181975 and 2 * 820000 + 284475 of room.
+    EXPECT_EQ(s.svwert[6], 125525);
+    EXPECT_EQ(s.svwert[12], 1411975);
+    EXPECT_EQ(s.svwert[15], 1924475);
+    EXPECT_EQ(s.wert[29], 125525);
+    EXPECT_EQ(s.wert[28], 125525);
+    // KV 125525 * 1340 / 20000 = 8410.175 -> 8410; PV 125525 * 0.85 / 100 = 1066.9625 ->
+    // 1067; RV 125525 * 10.15 / 100 = 12740.7875 -> 12741; AV 125525 * 3.25 / 100 =
+    // 4079.5625 -> 4080.
+    EXPECT_EQ(s.wert[37], -8410);
+    EXPECT_EQ(s.wert[38], -1067);
+    EXPECT_EQ(s.wert[39], -12741);
+    EXPECT_EQ(s.wert[40], -4080);
+    EXPECT_EQ(s.nebenwert[3], 4080);
+    // 125000 - 8410 - 1067 - 12741 - 4080 = 98702.
+    EXPECT_EQ(s.wert[45], 98702);
+}
+
 } // namespace lonvir

@@ -1,0 +1,114 @@
+// Whole months through the run: gross pay from the tariff line, supplementary pension, wage
+// tax, surcharge and church tax, social insurance and the payment, each figure worked by hand.
+#include "engine/berechnen.h"
+#include "engine/monatladen.h"
+#include "engine/tarifdatei.h"
+#include "records/tarifsatz.h"
+#include "start/einstellungen.h"
+#include "testhilfe.h"
+
+#include <gtest/gtest.h>
+
+namespace lonvir {
+
+namespace {
+
+// Settings of 1997 (care 1.7 %, pension 20.3 %, unemployment 6.5 %; ceilings of health and
+// pension insurance 6150 and 8200 DM in the West: the published figures of
+// sozialversicherung_1997_1998.csv). Fund 0 charges the average rate of 13.4 % of that file.
+// The supplementary pension fund's settings are typed as a pay office would: ceiling
+// 10000 DM, surcharge from 7000 DM, church tax on the lump tax 7 %, lump limit by twelfths.
+struct Abrechnung : ::testing::Test {
+    test::Umgebung u;
+    Sitzung& s = u.s;
+    Abrechnung() {
+        s.voreinstellung[1] = Currency::ganz(2);
+        s.voreinstellung[2] = Currency::ganz(8);
+        s.voreinstellung[3] = Currency::ganz(5);
+        s.voreinstellung[4] = Currency::ganz(3);
+        s.voreinstellung[6] = Currency::ganz(4);
+        s.voreinstellung[15] = Currency::ganz(1);
+        s.voreinstellung[27] = Currency::ganz(0);
+        s.voreinstellung[28] = Currency::ganz(7);
+        s.vorgabewert[2] = 7000;
+        s.vorgabewert[6] = 10000;
+        aktualisieren(s);
+        for (int monat = 0; monat <= 11; ++monat)
+            s.kvsatz[monat][0] = Currency::ganz(1340);
+    }
+};
+
+} // namespace
+
+TEST_F(Abrechnung, AngestellterBatVcWestLedigSteuerklasseEinsImJanuar1997) {
+    // BAT Vc (VKA, staff class 6), Stufe 5, single, tax class I without children, church tax
+    // 9 %, fund 0, supplementary pension 4.5 %, January 1997, all days and hours.
+    monatladen(s, 1, 0);
+    s.merkmal[4] = 6;
+    s.merkmal[5] = 8;
+    s.merkmal[7] = 4;  // Stufe 5
+    s.merkmal[8] = 0;  // ledig: Ortszuschlag Stufe 1
+    s.merkmal[9] = 0;  // allgemeine Zulage
+    s.merkmal[33] = 0; // I/0
+    s.merkmal[36] = 1; // 9 %
+    s.merkmal[29] = 0; // the normal table
+    s.eingabe[25] = 450;
+    // The tariff line, from bat_grundverguetung_west.csv and bat_zulage_ortszuschlag_west.csv
+    // (VergTV Nr. 31, 1997): Vc Stufe 5 2889.59 DM, Ortszuschlag Tarifklasse II 810.61 DM,
+    // allgemeine Zulage 188.36 DM.
+    Tarifsatz t;
+    t.wert[4] = 288959;
+    t.wert[15] = 81061;
+    t.wert[25] = 18836;
+    tarifsatzschreiben(s, tarifsatznummer(s), datei::tarif1, t);
+    s.aenderungscode = 0;
+    berechnen(s);
+
+    // Gross: 288959 + 81061 + 18836 = 388856.
+    EXPECT_EQ(s.wert[7], 288959);
+    EXPECT_EQ(s.wert[8], 81061);
+    EXPECT_EQ(s.wert[9], 18836);
+    EXPECT_EQ(s.wert[22], 388856);
+
+    // Supplementary pension: 0.045 * 388856 = 17498.52 -> 17499; entgeltgrenze
+    // 17500 / 0.045 = 388889, not reached, so all of it is lump-taxed and nothing goes into
+    // the taxable wage; insured part 388856 * 0.025 = 9721.4 -> 9721, less 2600 = 7121.
+    // Lump tax 17499 * 0.2 = 3499.8 -> 3500, its church tax 7 % = 245, surcharge
+    // 3500 * 0.075 = 262.5 cut to 262.
+    EXPECT_EQ(s.wert[31], 17499);
+    EXPECT_EQ(s.zvkwert[15], 0);
+    EXPECT_EQ(s.zvkwert[18], 7121);
+    EXPECT_EQ(s.wert[6], 245);
+    EXPECT_EQ(s.wert[32], 3762);
+
+    // Wage tax, 1997 schedule, class I: yearly wage (388856 + 0.67) * 0.12 = 46662 DM;
+    // step 46658 to 46711. Allowances 2000 + 108 = 2108. Vorsorgepauschale: 20 % of 46711 =
+    // 9342.2; the first limit 6000 less 16 % of 46711 leaves 0; then 2610, and of the rest
+    // 6732.2 one half, 3366.11, limited to 1305: 3915, on the grid of 54: 3888.
+    // zve 46658 - 2108 - 3888 = 40662 = 753 * 54. y = 2.862; r = 2.862 * 86.63 = 247.935;
+    // (247.935 + 2590) * 2.862 = 8122.17 -> 8122 DM a year. Month: 812200 / 12 = 67683.
+    EXPECT_EQ(s.lstwert[7], 388856);
+    EXPECT_EQ(s.wert[33], -67683);
+    // Surcharge: 7.5 % of 8122 = 609.15 (20 % of 8122 - 1332 is more); 60915 / 12 = 5076.
+    EXPECT_EQ(s.wert[35], -5076);
+    // Church tax: 67683 * 0.09 = 6091.47 -> 6091.
+    EXPECT_EQ(s.wert[36], -6091);
+    EXPECT_EQ(s.wert[34], 0);
+    EXPECT_EQ(s.wert[27], 388856);
+
+    // Insurance: 388856 + 7121 = 395977, under both ceilings.
+    // KV 395977 * 1340 / 20000 = 26530.459 -> 26530; PV 395977 * 0.85 / 100 = 3365.8045 ->
+    // 3366; RV 395977 * 10.15 / 100 = 40191.6655 -> 40192; AV 395977 * 3.25 / 100 =
+    // 12869.2525 -> 12869.
+    EXPECT_EQ(s.wert[29], 395977);
+    EXPECT_EQ(s.wert[28], 395977);
+    EXPECT_EQ(s.wert[37], -26530);
+    EXPECT_EQ(s.wert[38], -3366);
+    EXPECT_EQ(s.wert[39], -40192);
+    EXPECT_EQ(s.wert[40], -12869);
+
+    // Payment: 388856 - 67683 - 5076 - 6091 - 26530 - 3366 - 40192 - 12869 = 227049.
+    EXPECT_EQ(s.wert[45], 227049);
+}
+
+} // namespace lonvir
