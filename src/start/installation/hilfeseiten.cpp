@@ -6,6 +6,7 @@
 #include "core/satzdatei.h"
 #include "records/tarifsatz.h"
 #include "records/textsatz.h"
+#include "start/installation/quelltext.h"
 #include "start/installation/tariftabellen.h"
 
 #include <array>
@@ -136,6 +137,57 @@ void schreiben(const fs::path& datei, const std::string& inhalt) {
         throw Dateifehler(datei.string(), "Die Hilfeseite kann nicht geschrieben werden.");
 }
 
+std::string lesen(const fs::path& datei) {
+    std::ifstream ein(datei, std::ios::binary);
+    return {std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
+}
+
+// The section of one row for one staff class.
+std::string zeilenabschnitt(const Quellzeile& z, bool beamte) {
+    const auto feld = [&z](std::size_t i) { return i < z.felder.size() ? z.felder[i] : ""; };
+    std::string zusatz = beamte ? feld(3) : feld(4);
+    std::string text =
+        "<h2>Zeile " + feld(0) + ": " + html(feld(1)) + "</h2>\n<p>" + html(feld(2)) + "</p>\n";
+    if (!zusatz.empty())
+        text += "<p>" + html(zusatz) + "</p>\n";
+    return text;
+}
+
+// The row topics: a page per row for the staff classes with row help. A written page of the
+// same context keeps its text and gets the row's section before its end.
+void zeilenseitenschreiben(const fs::path& quelle, const fs::path& hilfe) {
+    struct Art {
+        int basis;
+        bool beamte;
+        const char* name;
+    };
+    const Art arten[] = {{11000, true, "Besoldungsordnung A"},
+                         {12500, true, "Besoldungsordnung C"},
+                         {45000, true, "Besoldungsordnung R"},
+                         {96200, false, "BAT"}};
+    const std::vector<Quellzeile> zeilen = tsvlesen(quelle);
+    for (const Art& art : arten)
+        for (const Quellzeile& z : zeilen) {
+            const int zeile = ganzzahl(z.felder[0], quelle, z.zeile);
+            if (zeile < 0 || zeile > 45 || z.felder.size() < 3)
+                quellfehler(quelle, z.zeile, "Zeile 0 bis 45 mit Titel und Text erwartet.");
+            const fs::path seite = hilfe / (std::to_string(art.basis + zeile) + ".html");
+            const std::string abschnitt = zeilenabschnitt(z, art.beamte);
+            std::string inhalt = lesen(seite);
+            const auto ende = inhalt.rfind("</body>");
+            if (ende != std::string::npos) {
+                inhalt.insert(ende, abschnitt);
+            } else {
+                const std::string titel = std::string(art.name) + ", Zeile " + z.felder[0];
+                inhalt =
+                    "<!DOCTYPE html>\n<html lang=\"de\">\n<head><meta charset=\"utf-8\"><title>" +
+                    html(titel) + "</title></head>\n<body>\n<h1>" + html(titel) + "</h1>\n" +
+                    abschnitt + "</body>\n</html>\n";
+            }
+            schreiben(seite, inhalt);
+        }
+}
+
 } // namespace
 
 const std::vector<Tabellenthema>& tabellenthemen() {
@@ -185,6 +237,7 @@ void hilfeschreiben(const fs::path& quellen, const fs::path& ziel) {
             if (e.path().extension() == ".html")
                 fs::copy_file(e.path(), hilfe / e.path().filename(),
                               fs::copy_options::overwrite_existing);
+    zeilenseitenschreiben(quellen / "zeilen.tsv", hilfe);
     for (const Tabellenthema& t : tabellenthemen()) {
         const fs::path seite = hilfe / (std::to_string(t.kontext) + ".html");
         if (fs::exists(seite))

@@ -25,8 +25,9 @@ struct Tabellenthema {
 [[nodiscard]] std::string tabellenseite(const std::filesystem::path& ordner,
                                         const Tabellenthema& thema);
 
-// Copies data/hilfe/*.html to ziel/hilfe and writes the pay-table topics there; a written
-// page of the same context is an error.
+// Copies data/hilfe/*.html to ziel/hilfe, writes the row topics from data/hilfe/zeilen.tsv
+// (11000, 12500, 45000 and 96200 plus the row, for Besoldungsordnung A, C, R and BAT) and
+// the pay-table topics there; a written page of a pay-table context is an error.
 void hilfeschreiben(const std::filesystem::path& quellen, const std::filesystem::path& ziel);
 
 } // namespace lonvir::installation

@@ -354,4 +354,31 @@ TEST(Hilfe, TabellenseitenZeigenDieInstalliertenBetraege) {
     EXPECT_NE(seite.find("2.408,53"), std::string::npos); // A 1 Stufe 1
 }
 
+// Every help context the menus, the panel pages and the row help open has its page.
+TEST(Hilfe, JederKontextHatSeineSeite) {
+    std::vector<int> kontexte = {
+        33010, 33011, 33012, 71010, 70011, 33091, 33092, 33100, 33150, 33170, 70100, 70200, 70250,
+        70109, 70209, 70259, 96201, 20940, 96857, 90006, 20900, 96150, 96807, 20930, 20000, 1000,
+        90020, 90000, 90010, 96110, 96100, 96170, 96194, 96190, 96204, 11000, 12500, 45000, 96200};
+    for (int basis : {11000, 12500, 45000, 96200})
+        for (int zeile = 0; zeile <= 45; ++zeile)
+            kontexte.push_back(basis + zeile);
+    for (int k : kontexte) {
+        const fs::path seite = installiert / "hilfe" / (std::to_string(k) + ".html");
+        ASSERT_TRUE(fs::exists(seite)) << k;
+        std::ifstream ein(seite);
+        const std::string text{std::istreambuf_iterator<char>(ein),
+                               std::istreambuf_iterator<char>()};
+        EXPECT_NE(text.find("<h1>"), std::string::npos) << k;
+    }
+}
+
+// A context that is both a written topic and a row topic keeps both.
+TEST(Hilfe, GeschriebeneSeiteBekommtDenZeilenabschnitt) {
+    std::ifstream ein(installiert / "hilfe" / "96201.html");
+    const std::string text{std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
+    EXPECT_NE(text.find("Überreicht durch"), std::string::npos);
+    EXPECT_NE(text.find("Zeile 1: Dienstalter"), std::string::npos);
+}
+
 } // namespace lonvir
