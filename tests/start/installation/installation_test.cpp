@@ -124,6 +124,23 @@ TEST(Installation, EinsetzenIstDerCliBefehlAnlegenMitInstallation) {
     EXPECT_TRUE(alledateien(t.pfad() / "ordner") == alledateien(installiert));
 }
 
+TEST(Installation, AnlegenMitLeerLegtDenOrdnerOhneInstallationsdatenAn) {
+    test::Tempordner t;
+    const std::string cli = std::string(LONVIR_CLI) + " anlegen --leer --ordner " +
+                            (t.pfad() / "ordner").string() + " >/dev/null";
+    ASSERT_EQ(std::system(cli.c_str()), 0);
+    EXPECT_EQ(test::dateiinhalt(t.pfad() / "ordner", "Lonvir97.1tr").size(), 0u);
+    EXPECT_EQ(test::dateiinhalt(t.pfad() / "ordner", "Texte.txt").substr(5000 * 35, 7), "1. Name");
+}
+
+TEST(Installation, InstallierenInEinenOrdnerMitBestandWirdAbgewiesen) {
+    test::Tempordner t;
+    std::ofstream(t.pfad() / "L1997I.1") << "Bestand";
+    EXPECT_THROW(installation::installieren(quellen, t.pfad()), Dateifehler);
+    EXPECT_EQ(test::dateiinhalt(t.pfad(), "L1997I.1"), "Bestand");
+    EXPECT_FALSE(fs::exists(t.pfad() / "Texte.txt"));
+}
+
 TEST(Quelltext, BetraegeWerdenExaktInPfennigGelesen) {
     const fs::path q = "probe.tsv";
     EXPECT_EQ(installation::pfennig("2408.53", q, 1), 240853);
@@ -194,7 +211,7 @@ TEST(Texttabelle, JedeGeleseneListeHatEintraege) {
         EXPECT_FALSE(textgetrimmt(i.s, 2521 + 10 * b).empty());
 }
 
-// Where the design quotes a list text, the table has it exactly.
+// The program's own words of the fixed lists stand in the table letter for letter.
 TEST(Texttabelle, ZitierteTexteStehenWoertlich) {
     Installiert i;
     EXPECT_EQ(textgetrimmt(i.s, 3323), "nein");
