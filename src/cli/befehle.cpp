@@ -15,7 +15,7 @@ namespace {
 const char* const aufruf =
     "Aufruf: lonvir97-cli BEFEHL [--ordner DIR] [--jahr 1997|1998] [--schicht INFO|PLAN|REAL]\n"
     "                    [--json] [--ja|--nein] ...\n"
-    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle\n";
+    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, installieren\n";
 
 std::filesystem::path standardordner() {
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
@@ -49,6 +49,9 @@ Kontext::Kontext(const Optionen& o)
         throw Aufruffehler("--ja und --nein schließen einander aus.");
     s.ordner = Arbeitsordner(o.wert("ordner") ? std::filesystem::path(*o.wert("ordner"))
                                               : standardordner());
+    // --leer creates a working folder without the installation data.
+    if (!o.schalter("leer"))
+        s.installation = mitgelieferteinstallation();
     s.dialoge = &dialoge;
     s.jahr = static_cast<std::int16_t>(o.zahl("jahr", 1997, 1998, 1997));
     s.schicht = schichtAus(o);
@@ -79,6 +82,8 @@ int ausfuehren(int argc, char** argv) {
             befehl = lohnsteuer;
         else if (o.befehl() == "tabelle")
             befehl = tabelle;
+        else if (o.befehl() == "installieren")
+            return installieren(o, std::cout);
         else
             throw Aufruffehler("Unbekannter Befehl: " + o.befehl());
         Kontext k(o);

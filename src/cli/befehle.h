@@ -6,6 +6,7 @@
 #include "core/dialoge.h"
 #include "start/sitzung.h"
 
+#include <filesystem>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -46,5 +47,9 @@ int tabelle(Kontext& k, std::ostream& aus);
 // A count of child allowances, 0 to 7 in steps of 0.5, written "1,5" or "1.5"; missing is 0
 // unless pflicht is set. Anything else is a usage error.
 [[nodiscard]] Currency halbeSchritte(const Optionen& o, const std::string& name, bool pflicht);
+// Needs no session: compiles data/ into a folder.
+int installieren(const Optionen& o, std::ostream& aus);
+// The compiled installation of the build, which seeds a new working folder.
+[[nodiscard]] std::filesystem::path mitgelieferteinstallation();
 
 } // namespace lonvir::cli

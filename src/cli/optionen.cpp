@@ -8,8 +8,8 @@ namespace lonvir::cli {
 
 namespace {
 // Options that stand alone; every other option takes a value.
-const std::set<std::string> alleinstehend = {"json",      "ja",     "nein", "alter64",
-                                             "besonders", "beamte", "alter"};
+const std::set<std::string> alleinstehend = {"json",      "ja",     "nein",  "alter64",
+                                             "besonders", "beamte", "alter", "leer"};
 } // namespace
 
 Optionen::Optionen(int argc, char** argv) {
@@ -77,8 +77,8 @@ long Optionen::zahl(const std::string& name, long min, long max, long vorgabe) c
 }
 
 void Optionen::nurErlaubt(const std::vector<std::string>& erlaubt) const {
-    static const std::vector<std::string> gemeinsam = {"ordner", "jahr", "schicht",
-                                                       "json",   "ja",   "nein"};
+    static const std::vector<std::string> gemeinsam = {"ordner", "jahr", "schicht", "json",
+                                                       "ja",     "nein", "leer"};
     auto bekannt = [&](const std::string& n) {
         return std::find(erlaubt.begin(), erlaubt.end(), n) != erlaubt.end() ||
                std::find(gemeinsam.begin(), gemeinsam.end(), n) != gemeinsam.end();

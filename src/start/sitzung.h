@@ -13,6 +13,7 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <string>
 
 namespace lonvir {
@@ -81,6 +82,8 @@ struct Sitzung {
 
     // --- where the data lie and who answers the questions
     Arbeitsordner ordner;
+    // The compiled installation data that seed a working folder without a store; empty: none.
+    std::filesystem::path installation;
     std::array<Satzdatei, 24> dateien; // index = file number 1..23; 0 unused
     Dialoge* dialoge = nullptr;
     Anzeige* anzeige = nullptr; // the screen that shows the rows; none in the CLI

@@ -4,6 +4,7 @@
 #include "core/pfennig.h"
 #include "start/dateisatz.h"
 #include "start/einstellungen.h"
+#include "start/installation/installieren.h"
 #include "start/personenanlegen.h"
 
 #include <cstdint>
@@ -26,6 +27,9 @@ Startergebnis startsperre(Sitzung& s) {
 } // namespace
 
 Startergebnis starten(Sitzung& s) {
+    // A working folder without a store is first seeded from the installation data.
+    if (!s.installation.empty() && installation::ohnebestand(s.ordner))
+        installation::einsetzen(s.installation, s.ordner);
     s.startphase = 1;
     s.aenderungssperre = -1;
     const std::int16_t schicht = s.schicht;

@@ -42,7 +42,7 @@ TEST(Cli, AnlegenSetzenZeigenSatzUndDieBytesAufDerPlatte) {
     test::Tempordner t;
     const std::string ordner = "--ordner " + t.pfad().string();
 
-    Lauf a = cli("anlegen " + ordner);
+    Lauf a = cli("anlegen --leer " + ordner);
     ASSERT_EQ(a.status, 0);
     EXPECT_NE(a.aus.find("20 Personen"), std::string::npos);
 
