@@ -10,6 +10,9 @@
 #include "start/installation/vorgaben.h"
 #include "start/start.h"
 
+#include <string>
+#include <vector>
+
 namespace lonvir::installation {
 
 namespace fs = std::filesystem;
@@ -60,8 +63,15 @@ void installieren(const fs::path& quellen, const fs::path& ziel) {
 }
 
 bool ohnebestand(const Arbeitsordner& ordner) {
-    for (const char* name : {"Texte.txt", "Lonvir97.dim", "Lonvir97.voe", "L1997I.1", "L1997P.1",
-                             "L1997R.1", "L1998I.1", "L1998P.1", "L1998R.1"})
+    std::vector<std::string> namen = {"Texte.txt", "Lonvir97.dim", "Lonvir97.voe"};
+    for (int jahr : {1997, 1998}) {
+        for (int n = 1; n <= 4; ++n)
+            namen.push_back(tarifdateiname(jahr, n));
+        for (const char* schicht : {"I", "P", "R"})
+            for (int monat = 1; monat <= 13; ++monat)
+                namen.push_back("L" + std::to_string(jahr) + schicht + "." + std::to_string(monat));
+    }
+    for (const std::string& name : namen)
         if (ordner.vorhanden(name))
             return false;
     return true;

@@ -14,8 +14,9 @@ namespace lonvir::installation {
 // sample staff in layer INFO, and the help pages in hilfe/.
 void installieren(const std::filesystem::path& quellen, const std::filesystem::path& ziel);
 
-// A working folder holds no store while none of the text table, the settings files and the
-// month files of January of any layer and year are there.
+// A working folder holds no store while no file of the set is there: text table, settings,
+// tariff files, month and year files of any layer and year (names matched without regard
+// to case). Only such a folder is seeded, so no file of the user is ever overwritten.
 [[nodiscard]] bool ohnebestand(const Arbeitsordner& ordner);
 
 // Copies every file of the compiled installation into the working folder, keeping the

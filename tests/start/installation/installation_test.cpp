@@ -110,6 +110,16 @@ TEST(Installation, EinOrdnerMitBestandWirdNichtUeberschrieben) {
     EXPECT_EQ(test::dateiinhalt(t.pfad(), "Lonvir97.1tr").size(), 0u);
 }
 
+TEST(Installation, EinzelneDateiDesSatzesGiltAlsBestand) {
+    test::Tempordner t;
+    std::ofstream(t.pfad() / "l1997p.13") << "Bemerkung";
+    EXPECT_FALSE(installation::ohnebestand(Arbeitsordner(t.pfad())));
+    std::ofstream(t.pfad() / "nur-eine-notiz.txt") << "fremd";
+    test::Tempordner leer;
+    std::ofstream(leer.pfad() / "nur-eine-notiz.txt") << "fremd";
+    EXPECT_TRUE(installation::ohnebestand(Arbeitsordner(leer.pfad())));
+}
+
 TEST(Installation, OhneInstallationsordnerBleibtDerNeueOrdnerLeer) {
     test::Tempordner t;
     EXPECT_FALSE(installation::einsetzen(t.pfad() / "gibt-es-nicht", Arbeitsordner(t.pfad())));
