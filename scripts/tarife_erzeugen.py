@@ -23,8 +23,9 @@ R_GRUPPEN = ['R %d' % i for i in range(1, 11)]
 ANW = ['A 1 bis A 4', 'A 5 bis A 8', 'A 9 bis A 11', 'A 12', 'A 13',
        'A 13 + Zulage (Vorbem. Nr. 27 Abs. 1) oder R 1']
 # Staff class 6 (BAT VKA): the 17 groups of its row 5 list; classes 5 and 6 share this order.
-VKA = ['I', 'Ia', 'Ib', 'IIa', 'IIb', 'III', 'IVa', 'IVb', 'Va', 'Vb', 'Vc', 'VIa', 'VIb', 'VII',
-       'VIII', 'IX', 'X']
+# Vc stands at position 9, so that the holiday pay of the groups above 8 is that of X to Vc.
+VKA = ['I', 'Ia', 'Ib', 'IIa', 'IIb', 'III', 'IVa', 'IVb', 'Vb', 'Vc', 'VIa', 'VIb', 'VII', 'VIII',
+       'IXa', 'IX', 'X']
 
 def tarifklasse(gruppe):
     if gruppe in ('B 1', 'B 2', 'C 1', 'C 2', 'C 3', 'R 1', 'R 2') or gruppe in (

@@ -278,7 +278,7 @@ TEST(Tariftabellen, OeffentlicheBetraegeStehenAnIhremSatz) {
     EXPECT_EQ(ost95.wert[15], 66571);
     EXPECT_EQ(ost95.wert[16], 14320);
     // BAT VKA Vc 1997 (VergTV Nr. 31): Stufe 1 2381.86, allgemeine Zulage 188.36.
-    const Tarifsatz vc = tarifsatz(installiert, "Lonvir97.1tr", 89);
+    const Tarifsatz vc = tarifsatz(installiert, "Lonvir97.1tr", 88);
     EXPECT_EQ(vc.wert[0], 238186);
     EXPECT_EQ(vc.wert[25], 18836);
     // Familienzuschlag Ost 1.7.1997, A 1 to A 8: Stufe 1 145.06, Stufe 2 275.39, so the
@@ -309,7 +309,7 @@ TEST(Tariftabellen, JederBelegteBlockHatGrundgehalt) {
             EXPECT_TRUE(hatbetrag(tarifsatz(installiert, b.datei, n))) << b.datei << " Satz " << n;
     for (const char* datei : {"Lonvir97.1tr", "Lonvir97.2tr", "Lonvir97.3tr", "Lonvir97.4tr",
                               "Lonvir98.1tr", "Lonvir98.2tr"})
-        for (int n : {84, 89, 91, 92}) // BAT VKA III, Vc, VIb, VII
+        for (int n : {84, 88, 90, 91}) // BAT VKA III, Vc, VIb, VII
             EXPECT_TRUE(hatbetrag(tarifsatz(installiert, datei, n))) << datei << " " << n;
 }
 
@@ -329,6 +329,10 @@ TEST(Vorgaben, BeitragssaetzeUndGrenzen1997) {
     EXPECT_EQ(e.ab_tarif2, 3);
     EXPECT_EQ(e.ab_tarif3, 7);
     EXPECT_EQ(e.ab_tarif4, 9);
+    // Christmas bonus of the employees West: 3988.20 / 4252.72 = 0.9378 on the public
+    // calculator page; the civil servants' factors were not found and stay 0.
+    EXPECT_EQ(e.zuwendungsquote[2], Currency::roh(937800));
+    EXPECT_EQ(e.zuwendungsquote[0], Currency::ganz(0));
     EXPECT_EQ(i.s.kvsatz[0][0], Currency::ganz(1340));
     EXPECT_EQ(i.s.kvsatz[11][27], Currency::ganz(1340));
 }
@@ -344,6 +348,7 @@ TEST(Vorgaben, BeitragssaetzeUndGrenzen1998) {
     EXPECT_EQ(e.bmgRvOst, 700000);  // (0 * 50 + 7000) DM
     EXPECT_EQ(e.ab_tarif2, 9);
     EXPECT_EQ(e.ab_tarif3, 0);
+    EXPECT_EQ(e.zuwendungsquote[2], Currency::roh(923900)); // 2930.47 / 3171.85
     EXPECT_EQ(i.s.kvsatz[5][3], Currency::ganz(1360));
 }
 
