@@ -47,7 +47,7 @@ void tariflinie(const std::filesystem::path& ordner) {
 TEST(CliBda, DienstalterSetztDieStufeUndDieBruttozeilenKommenAusDemTarif) {
     test::Tempordner t;
     const std::string ordner = "--ordner " + t.pfad().string();
-    cli("anlegen " + ordner);
+    cli("anlegen --leer " + ordner);
     tariflinie(t.pfad());
 
     // January 1997, start 01.1985: 144 months -> step 6; row 7 = 150000 + 60000.
@@ -67,7 +67,7 @@ TEST(CliBda, DienstalterSetztDieStufeUndDieBruttozeilenKommenAusDemTarif) {
 TEST(CliBda, KeinDatumLeertDasFeldUndSpeichertNichts) {
     test::Tempordner t;
     const std::string ordner = "--ordner " + t.pfad().string();
-    cli("anlegen " + ordner);
+    cli("anlegen --leer " + ordner);
     const std::string aus = cli("setzen " + ordner + " --person 1 --monat 1 --bda 13.1985 --json");
     EXPECT_NE(aus.find("\"bdabeginn\":\"       \""), std::string::npos) << aus;
     const std::string danach = cli("zeigen " + ordner + " --person 1 --monat 1 --json");
