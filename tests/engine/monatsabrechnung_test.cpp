@@ -111,4 +111,67 @@ TEST_F(Abrechnung, AngestellterBatVcWestLedigSteuerklasseEinsImJanuar1997) {
     EXPECT_EQ(s.wert[45], 227049);
 }
 
+TEST_F(Abrechnung, BeamterA9OstVerheiratetMitVersorgungsumlageImJanuar1997) {
+    // Besoldungsordnung A 9 in the Ost (staff class 0), Dienstaltersstufe 6, married, spouse
+    // not in the public service, tax class III without children, no church tax, pension levy
+    // typed at 30.00 %, January 1997.
+    monatladen(s, 1, 0);
+    s.merkmal[4] = 0;
+    s.merkmal[2] = 1;
+    s.merkmal[5] = 9;
+    s.merkmal[7] = 5;   // Stufe 6
+    s.merkmal[8] = 1;   // verheiratet: Ortszuschlag Stufe 2
+    s.merkmal[3] = 0;   // spouse not in the public service
+    s.merkmal[9] = 0;   // allgemeine Stellenzulage
+    s.merkmal[33] = 21; // III/0
+    s.merkmal[36] = 3;  // no church tax
+    s.eingabe[25] = 3000;
+    // The tariff line of the Ost at 84 %, valid from 1.10.1995 to 30.6.1997
+    // (besoldung_grundgehalt.csv, besoldung_ortszuschlag_alt.csv, Bek. v. 21.02.1996 Anlage
+    // IIA/IIB): A 9 Stufe 6 2275.91 DM; Ortszuschlag Tarifklasse Ic Stufe 1 706.69 DM and
+    // Stufe 2 857.07 DM, so the married increase is 150.38 DM. The allgemeine Stellenzulage
+    // of the gehobener Dienst, Nummer 27 Abs. 1 Buchstabe c: 162.83 DM
+    // (besoldung_allgemeine_stellenzulage.csv).
+    Tarifsatz t;
+    t.wert[5] = 227591;
+    t.wert[15] = 70669;
+    t.wert[16] = 15038;
+    t.wert[25] = 16283;
+    tarifsatzschreiben(s, tarifsatznummer(s), datei::tarif1, t);
+    s.aenderungscode = 0;
+    berechnen(s);
+
+    // Gross: 227591 + (70669 + 15038) + 16283 = 329581; no transition allowance before July.
+    EXPECT_EQ(s.wert[7], 227591);
+    EXPECT_EQ(s.wert[8], 85707);
+    EXPECT_EQ(s.wert[9], 16283);
+    EXPECT_EQ(s.wert[10], 0);
+    EXPECT_EQ(s.wert[22], 329581);
+
+    // Pension levy: all three rows are pensionable; 0.3 * 329581 = 98874.3 -> 98874.
+    EXPECT_EQ(s.zvkwert[7], 329581);
+    EXPECT_EQ(s.wert[31], 98874);
+    EXPECT_EQ(s.wert[32], 0);
+
+    // Wage tax, special table, class III: yearly wage (329581 + 0.67) * 0.12 = 39549 DM;
+    // step 39530 to 39583. Allowances 2000 + 216 = 2216. Vorsorgepauschale: 20 % of 39583 =
+    // 7916.6, limited to 2214 * 2 = 4428 = 82 * 54. zve 39530 - 2216 - 4428 = 32886; half
+    // 16443 on the grid: 16416. y = 0.4374; r = 0.4374 * 86.63 = 37.891962, cut to 37.8919;
+    // (37.8919 + 2590) * 0.4374 = 1149.44 -> 1149, doubled 2298 DM a year.
+    // Month: 229800 / 12 = 19150. Surcharge: 2298 is not above 2 * 1332 = 2664, so 0.
+    EXPECT_EQ(s.lstwert[7], 329581);
+    EXPECT_EQ(s.wert[33], -19150);
+    EXPECT_EQ(s.wert[35], 0);
+    EXPECT_EQ(s.wert[36], 0);
+
+    // Civil servants pay no social insurance.
+    for (int zeile = 37; zeile <= 40; ++zeile)
+        EXPECT_EQ(s.wert[zeile], 0) << zeile;
+    EXPECT_EQ(s.wert[28], 0);
+    EXPECT_EQ(s.wert[29], 0);
+
+    // Payment: 329581 - 19150 = 310431.
+    EXPECT_EQ(s.wert[45], 310431);
+}
+
 } // namespace lonvir
