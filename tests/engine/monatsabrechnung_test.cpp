@@ -5,6 +5,7 @@
 #include "engine/tarifdatei.h"
 #include "records/tarifsatz.h"
 #include "start/einstellungen.h"
+#include "start/satzzugriff.h"
 #include "testhilfe.h"
 
 #include <gtest/gtest.h>
@@ -36,33 +37,47 @@ struct Abrechnung : ::testing::Test {
         for (int monat = 0; monat <= 11; ++monat)
             s.kvsatz[monat][0] = Currency::ganz(1340);
     }
+    // BAT Vc (VKA, staff class 6, group 8), Stufe 5, single, tax class I without children,
+    // church tax 9 %, fund 0, supplementary pension 4.5 %, all days and hours: person 1 in
+    // the given month. The tariff line, from bat_grundverguetung_west.csv and
+    // bat_zulage_ortszuschlag_west.csv (VergTV Nr. 31, 1997): Vc Stufe 5 2889.59 DM,
+    // Ortszuschlag Tarifklasse II 810.61 DM, allgemeine Zulage 188.36 DM.
+    void batVcWest(std::int16_t monat) {
+        monatladen(s, 1, monat);
+        s.merkmal[4] = 6;
+        s.merkmal[5] = 8;
+        s.merkmal[7] = 4;  // Stufe 5
+        s.merkmal[8] = 0;  // ledig: Ortszuschlag Stufe 1
+        s.merkmal[9] = 0;  // allgemeine Zulage
+        s.merkmal[33] = 0; // I/0
+        s.merkmal[36] = 1; // 9 %
+        s.merkmal[29] = 0; // the normal table
+        s.eingabe[25] = 450;
+        Tarifsatz t;
+        t.wert[4] = 288959;
+        t.wert[15] = 81061;
+        t.wert[25] = 18836;
+        tarifsatzschreiben(s, tarifsatznummer(s), datei::tarif1, t);
+        s.aenderungscode = 0;
+        berechnen(s);
+    }
+    // The stored month of `von` copied to the months before `bis`, as if each had been paid
+    // the same.
+    void gleicheVormonate(int von, int bis) {
+        for (int monat = 0; monat < bis; ++monat) {
+            if (monat == von)
+                continue;
+            Personalsatz p = personalsatzlesen(s, von + 1, 1);
+            p.merkmal[20] = static_cast<std::int16_t>(monat);
+            personalsatzschreiben(s, monat + 1, 1, p);
+        }
+    }
 };
 
 } // namespace
 
 TEST_F(Abrechnung, AngestellterBatVcWestLedigSteuerklasseEinsImJanuar1997) {
-    // BAT Vc (VKA, staff class 6), Stufe 5, single, tax class I without children, church tax
-    // 9 %, fund 0, supplementary pension 4.5 %, January 1997, all days and hours.
-    monatladen(s, 1, 0);
-    s.merkmal[4] = 6;
-    s.merkmal[5] = 8;
-    s.merkmal[7] = 4;  // Stufe 5
-    s.merkmal[8] = 0;  // ledig: Ortszuschlag Stufe 1
-    s.merkmal[9] = 0;  // allgemeine Zulage
-    s.merkmal[33] = 0; // I/0
-    s.merkmal[36] = 1; // 9 %
-    s.merkmal[29] = 0; // the normal table
-    s.eingabe[25] = 450;
-    // The tariff line, from bat_grundverguetung_west.csv and bat_zulage_ortszuschlag_west.csv
-    // (VergTV Nr. 31, 1997): Vc Stufe 5 2889.59 DM, Ortszuschlag Tarifklasse II 810.61 DM,
-    // allgemeine Zulage 188.36 DM.
-    Tarifsatz t;
-    t.wert[4] = 288959;
-    t.wert[15] = 81061;
-    t.wert[25] = 18836;
-    tarifsatzschreiben(s, tarifsatznummer(s), datei::tarif1, t);
-    s.aenderungscode = 0;
-    berechnen(s);
+    batVcWest(0);
 
     // Gross: 288959 + 81061 + 18836 = 388856.
     EXPECT_EQ(s.wert[7], 288959);
@@ -172,6 +187,62 @@ TEST_F(Abrechnung, BeamterA9OstVerheiratetMitVersorgungsumlageImJanuar1997) {
 
     // Payment: 329581 - 19150 = 310431.
     EXPECT_EQ(s.wert[45], 310431);
+}
+
+TEST_F(Abrechnung, AngestellterBatVcWestImJuli1997MitUrlaubsgeld) {
+    // The same employee; January to June paid alike (their stored taxable wage 388856, their
+    // bases 395977 each, as the January month above works out).
+    batVcWest(0);
+    gleicheVormonate(0, 6);
+    batVcWest(6);
+
+    // Urlaubsgeld for staff class 6, group 8 (not above 8): 500.00 DM. Gross 438856.
+    EXPECT_EQ(s.wert[17], 50000);
+    EXPECT_EQ(s.wert[22], 438856);
+
+    // Supplementary pension: row 17 is not pensionable, so all as in January.
+    EXPECT_EQ(s.zvkwert[2], -50000);
+    EXPECT_EQ(s.wert[31], 17499);
+    EXPECT_EQ(s.zvkwert[18], 7121);
+
+    // Wage tax of the month as in January: 67683, 5076, church 6091.47 -> 6091.
+    // The one-off pay: earlier months 6 * 388856 = 2333136, the rest of the year
+    // 6 * 388856 = 2333136, together 4666272 = the year of January: 8122 DM.
+    // With the 500 DM: yearly wage 47162.72, step 47142 + 2 = 47144 to 47197; Vorsorge-
+    // pauschale 20 % of 47197 = 9439.4, again 2610 + 1305 = 3915 -> 3888; zve 47144 - 2108 -
+    // 3888 = 41148 = 762 * 54; y = 2.9106, r = 252.145278 cut to 252.1452;
+    // 2842.1452 * 2.9106 = 8272.35 -> 8272. Differences: tax 827200 - 812200 = 15000;
+    // surcharge 62040 - 60915 = 1125 (7.5 % of 15000 is 1125, not below it: no cap);
+    // church tax 827200 * 0.09 = 74448 less 812200 * 0.09 = 73098: 1350.
+    EXPECT_EQ(s.lstwert[14], 2333136);
+    EXPECT_EQ(s.lstwert[16], 4666272);
+    EXPECT_EQ(s.lstwert[21], 15000);
+    EXPECT_EQ(s.lstwert[24], 1125);
+    EXPECT_EQ(s.lstwert[27], 1350);
+    EXPECT_EQ(s.wert[33], -82683);
+    EXPECT_EQ(s.wert[35], -6201);
+    EXPECT_EQ(s.wert[36], -7441);
+    EXPECT_EQ(s.wert[27], 438856);
+
+    // Insurance: current 438856 - 50000 + 7121 = 395977. Health room: six earlier months of
+    // 615000 - 395977 = 219023 and this month's: 1533161, so all 50000 of the Urlaubsgeld is
+    // taken: base 445977; pension likewise 445977.
+    // KV 445977 * 1340 / 20000 = 29880.459 -> 29880; PV 445977 * 0.0085 = 3790.8045 ->
+    // 3791; RV 445977 * 0.1015 = 45266.6655 -> 45267; AV 445977 * 0.0325 = 14494.2525 ->
+    // 14494.
+    EXPECT_EQ(s.svwert[3], -50000);
+    EXPECT_EQ(s.svwert[6], 395977);
+    EXPECT_EQ(s.svwert[12], 1533161);
+    EXPECT_EQ(s.svwert[13], 50000);
+    EXPECT_EQ(s.wert[29], 445977);
+    EXPECT_EQ(s.wert[28], 445977);
+    EXPECT_EQ(s.wert[37], -29880);
+    EXPECT_EQ(s.wert[38], -3791);
+    EXPECT_EQ(s.wert[39], -45267);
+    EXPECT_EQ(s.wert[40], -14494);
+
+    // Payment: 438856 - 82683 - 6201 - 7441 - 29880 - 3791 - 45267 - 14494 = 249099.
+    EXPECT_EQ(s.wert[45], 249099);
 }
 
 } // namespace lonvir
