@@ -42,8 +42,13 @@ struct Abrechnung : ::testing::Test {
     // the given month. The tariff line, from bat_grundverguetung_west.csv and
     // bat_zulage_ortszuschlag_west.csv (VergTV Nr. 31, 1997): Vc Stufe 5 2889.59 DM,
     // Ortszuschlag Tarifklasse II 810.61 DM, allgemeine Zulage 188.36 DM.
+    // The month is loaded into the working set and computed once, without the step list of
+    // the screen, so that the step chosen here is the one computed.
     void batVcWest(std::int16_t monat) {
-        monatladen(s, 1, monat);
+        s.aktuelleperson = 1;
+        s.merkmal[20] = monat;
+        satzlesen(s);
+        eingabewerte(s);
         s.merkmal[4] = 6;
         s.merkmal[5] = 8;
         s.merkmal[7] = 4;  // Stufe 5
@@ -243,6 +248,70 @@ TEST_F(Abrechnung, AngestellterBatVcWestImJuli1997MitUrlaubsgeld) {
 
     // Payment: 438856 - 82683 - 6201 - 7441 - 29880 - 3791 - 45267 - 14494 = 249099.
     EXPECT_EQ(s.wert[45], 249099);
+}
+
+TEST_F(Abrechnung, AngestellterBatVcWestImNovember1997MitZuwendung) {
+    // The same employee; January to October paid alike, and the Weihnachtsgeld quota of the
+    // employees in the West typed as 100 %.
+    s.voreinstellung[32] = Currency::ganz(100);
+    aktualisieren(s);
+    batVcWest(0);
+    gleicheVormonate(0, 11);
+    batVcWest(10);
+
+    // Zuwendung: rows 7 to 9 count, 388856 * 100 / 100; eleven months with pay and this one:
+    // 388856 / 12 * 12 = 388856. Gross 777712.
+    EXPECT_EQ(s.wert[18], 388856);
+    EXPECT_EQ(s.wert[22], 777712);
+
+    // Supplementary pension: row 18 is pensionable and raises both ceilings: 1000000 + 388856
+    // and 700000 + 388856. 0.045 * 777712 = 34997.04 -> 34997, no surcharge; above the
+    // entgeltgrenze of 388889, so 17500 lump-taxed, 17497 into the taxable wage, 7122 insured:
+    // 24619 for the insurance.
+    EXPECT_EQ(s.zvkwert[6], 1388856);
+    EXPECT_EQ(s.stufengrenze, 1088856);
+    EXPECT_EQ(s.wert[31], 34997);
+    EXPECT_EQ(s.zvkwert[14], 17500);
+    EXPECT_EQ(s.zvkwert[15], 17497);
+    EXPECT_EQ(s.zvkwert[18], 24619);
+    EXPECT_EQ(s.wert[32], 3762);
+
+    // Wage tax of the month on 388856 + 17497 = 406353: yearly 48762, step 48710 to 48763,
+    // Vorsorgepauschale 3888, zve 42714; y = 3.0672, r = 265.7115, 2855.7115 * 3.0672 =
+    // 8759.04 -> 8759; month 875900 / 12 = 72991. Surcharge 656.925 * 100 / 12 -> 5474;
+    // church 72991 * 0.09 = 6569.19 -> 6569.
+    // The one-off pay: earlier months 10 * 388856 = 3888560, the rest 2 * 406353 = 812706,
+    // together 4701266: step 46982, zve 40986, y = 2.8944, r = 250.7418,
+    // 2840.7418 * 2.8944 = 8222.24 -> 8222. With the Zuwendung 5090122: step 50870, zve
+    // 44874, y = 3.2832, r = 284.4236, 2874.4236 * 3.2832 = 9437.31 -> 9437.
+    // Differences: tax 943700 - 822200 = 121500; surcharge 70777 - 61665 = 9112 (7.5 % of
+    // 121500 is 9112.5, not below it); church 84933 - 73998 = 10935.
+    EXPECT_EQ(s.lstwert[7], 406353);
+    EXPECT_EQ(s.lstwert[16], 4701266);
+    EXPECT_EQ(s.lstwert[21], 121500);
+    EXPECT_EQ(s.lstwert[24], 9112);
+    EXPECT_EQ(s.lstwert[27], 10935);
+    EXPECT_EQ(s.wert[33], -194491);
+    EXPECT_EQ(s.wert[35], -14586);
+    EXPECT_EQ(s.wert[36], -17504);
+    EXPECT_EQ(s.wert[27], 795209);
+
+    // Insurance: current 777712 - 388856 + 24619 = 413475; the room of ten earlier months
+    // and this one takes the whole Zuwendung: base 802331 for both.
+    // KV 802331 * 1340 / 20000 = 53756.177 -> 53756; PV 802331 * 0.0085 = 6819.8135 ->
+    // 6820; RV 802331 * 0.1015 = 81436.5965 -> 81437; AV 802331 * 0.0325 = 26075.7575 ->
+    // 26076.
+    EXPECT_EQ(s.svwert[6], 413475);
+    EXPECT_EQ(s.svwert[12], 2391755);
+    EXPECT_EQ(s.wert[29], 802331);
+    EXPECT_EQ(s.wert[28], 802331);
+    EXPECT_EQ(s.wert[37], -53756);
+    EXPECT_EQ(s.wert[38], -6820);
+    EXPECT_EQ(s.wert[39], -81437);
+    EXPECT_EQ(s.wert[40], -26076);
+
+    // Payment: 777712 - 194491 - 14586 - 17504 - 53756 - 6820 - 81437 - 26076 = 383042.
+    EXPECT_EQ(s.wert[45], 383042);
 }
 
 } // namespace lonvir
