@@ -314,4 +314,57 @@ TEST_F(Abrechnung, AngestellterBatVcWestImNovember1997MitZuwendung) {
     EXPECT_EQ(s.wert[45], 383042);
 }
 
+TEST_F(Abrechnung, AngestellterBatVcWestInTeilzeitImHalbenJanuar1997) {
+    // The same employee at 19.25 of 38.50 hours, paid for 15 of 30 days.
+    Personalsatz p = personalsatzlesen(s, 1, 1);
+    p.wert[1] = 1925;
+    p.wert[3] = 1500;
+    personalsatzschreiben(s, 1, 1, p);
+    batVcWest(0);
+
+    // Both factors 0.5. After the part-time factor: 144479.5, 40530.5 (single: no share of a
+    // spouse), 9418; row 21 rounded after each addition: 144480, 185010, 194428. After the
+    // paid days: 72239.75, 20265.25, 4709; row 22: 72240, 92505, 97214.
+    EXPECT_EQ(s.wert[21], 194428);
+    EXPECT_EQ(s.wert[22], 97214);
+
+    // Supplementary pension with halved limits 8750, 500000, 350000 and free part 1300:
+    // 0.045 * 97214 = 4374.63 -> 4375, all lump-taxed (entgeltgrenze 194444); insured part
+    // 97214 * 0.025 = 2430.35 -> 2430, not above 2600 and so not reduced. Lump tax 875, its
+    // church tax 61.25 -> 61, surcharge 65.625 cut to 65.
+    EXPECT_EQ(s.pauschgrenze, 8750);
+    EXPECT_EQ(s.wert[31], 4375);
+    EXPECT_EQ(s.zvkwert[16], 2430);
+    EXPECT_EQ(s.wert[6], 61);
+    EXPECT_EQ(s.wert[32], 940);
+
+    // Wage tax on a full month: 97214 / 0.5 = 194428; yearly (194428 + 0.67) * 0.12 = 23331;
+    // step 23330 to 23383. Vorsorgepauschale: 20 % of 23383 = 4676.6; the first limit
+    // 6000 - 3741.28 = 2258.72 and the rest 2417.88 within 2610: 4676.6, on the grid 4644.
+    // zve 23330 - 2108 - 4644 = 16578; y = 0.4536, r = 39.295368 cut to 39.2953;
+    // 2629.2953 * 0.4536 = 1192.65 -> 1192; month 119200 / 12 = 9933. No surcharge (1192
+    // is not above 1332). Scaled back by one half: 4966.5 -> 4966; church tax
+    // 9933 * 0.09 * 0.5 = 446.985 -> 447.
+    EXPECT_EQ(s.lstwert[7], 97214);
+    EXPECT_EQ(s.steuerlohn, Currency::ganz(194428));
+    EXPECT_EQ(s.wert[33], -4966);
+    EXPECT_EQ(s.wert[35], 0);
+    EXPECT_EQ(s.wert[36], -447);
+
+    // Insurance: 97214 + 2430 = 99644, under the halved ceilings 307500 and 410000.
+    // KV 99644 * 1340 / 20000 = 6676.148 -> 6676; PV 99644 * 0.0085 = 846.974 -> 847;
+    // RV 99644 * 0.1015 = 10113.866 -> 10114; AV 99644 * 0.0325 = 3238.43 -> 3238.
+    EXPECT_EQ(s.svwert[12], 207856);
+    EXPECT_EQ(s.svwert[15], 310356);
+    EXPECT_EQ(s.wert[29], 99644);
+    EXPECT_EQ(s.wert[28], 99644);
+    EXPECT_EQ(s.wert[37], -6676);
+    EXPECT_EQ(s.wert[38], -847);
+    EXPECT_EQ(s.wert[39], -10114);
+    EXPECT_EQ(s.wert[40], -3238);
+
+    // Payment: 97214 - 4966 - 447 - 6676 - 847 - 10114 - 3238 = 70926.
+    EXPECT_EQ(s.wert[45], 70926);
+}
+
 } // namespace lonvir
