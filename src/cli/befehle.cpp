@@ -66,6 +66,10 @@ void Kontext::meldungenAnhaengen(Json& j) const {
 }
 
 int ausfuehren(int argc, char** argv) {
+    if (argc == 2 && (std::string(argv[1]) == "--help" || std::string(argv[1]) == "hilfe")) {
+        std::cout << aufruf;
+        return 0;
+    }
     try {
         Optionen o(argc, argv);
         using Befehl = int (*)(Kontext&, std::ostream&);

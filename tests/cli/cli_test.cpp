@@ -104,6 +104,12 @@ TEST(Cli, FalscherAufrufGibtStatus2) {
     EXPECT_NE(l.aus.find("setzen braucht genau eine Eingabe"), std::string::npos);
 }
 
+TEST(Cli, HilfeZeigtDenAufruf) {
+    Lauf l = cli("--help");
+    EXPECT_EQ(l.status, 0);
+    EXPECT_NE(l.aus.find("Aufruf: lonvir97-cli BEFEHL"), std::string::npos);
+}
+
 TEST(Cli, NichtBeschreibbarerOrdnerGibtStatus4) {
     Lauf l = cli("anlegen --ordner /proc/lonvir97", true);
     EXPECT_EQ(l.status, 4);
