@@ -3,7 +3,7 @@ BUILD   ?= build
 ORDNER  ?= $(CURDIR)/arbeitsordner
 JOBS    ?= $(shell nproc)
 
-.PHONY: deps configure build run test bench format clean
+.PHONY: deps configure build run test sanitizer bench format clean
 
 deps:
 	@scripts/install-deps.sh
@@ -20,6 +20,13 @@ run: build
 test: build
 	@cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
 
+# The core and its tests once more with address and undefined-behaviour checks.
+sanitizer: deps
+	@cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DLONVIR_GUI=OFF \
+		-DCMAKE_CXX_FLAGS="-fsanitize=address,undefined -fno-sanitize-recover=undefined" >/dev/null
+	@cmake --build build-asan -j $(JOBS)
+	@cd build-asan && ctest --output-on-failure -j $(JOBS)
+
 bench: build
 	@$(BUILD)/bench/lonvir_bench
 
@@ -27,4 +34,4 @@ format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
 clean:
-	@rm -rf $(BUILD)
+	@rm -rf $(BUILD) build-asan
