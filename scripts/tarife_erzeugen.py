@@ -5,11 +5,15 @@ are the sources the build compiles. Only published amounts, amounts derived by t
 method of the data folder (status derived_unique), and sums of published components are
 written; every other cell stays empty (0). Usage: tarife_erzeugen.py DATENORDNER ZIELORDNER"""
 import csv, sys, os, collections
+from decimal import Decimal, ROUND_HALF_UP
 
 daten, ziel = sys.argv[1], sys.argv[2]
+# Public tables found for this project and kept beside the tariff sources (data/tarife/quellen).
+QUELLEN = os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))), 'data', 'tarife',
+                       'quellen')
 
-def lesen(name):
-    return list(csv.DictReader(open(os.path.join(daten, name), encoding='utf-8')))
+def lesen(name, ordner=None):
+    return list(csv.DictReader(open(os.path.join(ordner or daten, name), encoding='utf-8')))
 
 # Staff class 0: the 21 groups of the row 5 list, in the order of the tariff block.
 A_GRUPPEN = ['A 1', 'A 2', 'A 3', 'A 4', 'A 5', 'A 5', 'A 6', 'A 7', 'A 8', 'A 9', 'A 9', 'A 9',
@@ -112,29 +116,68 @@ def anw_werte(region, ab, gruppe):
                     16: float(r['verheiratetenzuschlag_62_1_dm'])}
     return {}
 
-def bat_werte(jahr, gruppe):
+def pfennig(x):
+    return Decimal(x).quantize(Decimal('0.01'), rounding=ROUND_HALF_UP)
+
+def vka_fortgeschrieben():
+    """BAT VKA West 1997 and 1998 from the complete table of VergTV Nr. 30 (1.5.1995): VergTV
+    Nr. 31 raised every cell by 1.3 % (1997), VergTV Nr. 32 every cell of that by 1.5 % (1998),
+    each rounded half up to the Pfennig. Stops unless the result reproduces every published or
+    uniquely derived 1995/1997/1998 cell of the data folder and every cell of the published BAT-O VKA
+    table of 1.4.1999 (West 1998 raised by 3.1 %, at 86.5 %, rounded once)."""
+    t95 = collections.defaultdict(dict)
+    for r in lesen('bat_vka_1995.csv', QUELLEN):
+        t95[r['verguetungsgruppe']][int(r['stufe'])] = Decimal(r['betrag_dm'])
+    t = {1997: {}, 1998: {}}
+    for g, zellen in t95.items():
+        t[1997][g] = {s: pfennig(v * Decimal('1.013')) for s, v in zellen.items()}
+        t[1998][g] = {s: pfennig(v * Decimal('1.015')) for s, v in t[1997][g].items()}
+    t[1995] = t95
+    for r in bat:
+        jahr = int(r['gueltig_ab'][:4])
+        if jahr in t and r['status'] in ('published_secondary', 'derived_unique') and \
+                t[jahr][r['verguetungsgruppe']][int(r['stufe'])] != Decimal(r['betrag_dm']):
+            sys.exit('BAT VKA %s %s Stufe %s weicht ab' % (jahr, r['verguetungsgruppe'], r['stufe']))
+    for r in lesen('bat_o_vka_1999.csv', QUELLEN):
+        g, s = r['verguetungsgruppe'], int(r['stufe'])
+        if g in VKA and g in t[1998] and \
+                pfennig(t[1998][g][s] * Decimal('1.031') * Decimal('0.865')) != Decimal(r['betrag_dm']):
+            sys.exit('BAT-O VKA 1999 %s Stufe %d passt nicht zur Tabelle 1998' % (g, s))
+    return t
+
+# Allgemeine Zulage and Ortszuschlag (Stufe 1, as the calculator pages show it) by the tier of the
+# group: X to Vc with Tarifklasse II, Vb to III with Tarifklasse Ic. VIII takes the amount of the
+# tier VIII to Vc; IXa to X stand in a lower tier of the Zulage whose amount was not found.
+ZULAGE_X_VC = ('Vc', 'VIb', 'VII', 'VIII')
+OZ_KLASSE_II = ('Vc', 'VIb', 'VII', 'VIII', 'IXa', 'IX', 'X')
+VB_III = ('Vb', 'IVb', 'IVa', 'III')
+
+def bat_werte(jahr, gruppe, fortgeschrieben):
     ab = '%d-01-01' % jahr
     e = {}
     for r in bat:
         if r['gueltig_ab'] == ab and r['verguetungsgruppe'] == gruppe and \
                 r['status'] in ('published_secondary', 'derived_unique'):
             e[int(r['stufe']) - 1] = float(r['betrag_dm'])
+    status = {r['status'] for r in bat if r['gueltig_ab'] == ab and r['verguetungsgruppe'] == gruppe}
+    quelle = 'BAT%d-%s' % (jahr % 100, '+'.join(sorted(status)))
+    if not e and gruppe in fortgeschrieben[jahr]:
+        e = {s - 1: float(v) for s, v in fortgeschrieben[jahr][gruppe].items()}
+        quelle = 'BAT%d-VKA95' % (jahr % 100)
     if not e:
         return e, ''
-    status = {r['status'] for r in bat if r['gueltig_ab'] == ab and r['verguetungsgruppe'] == gruppe}
-    gruppe_zul = 'III (Vb-III group)' if gruppe == 'III' else None
     for r in bat_zul:
         if r['gueltig_ab'] != ab or r['status'] not in ('published_secondary', 'derived_unique'):
             continue
-        x_vc = gruppe in ('Vc', 'VIb', 'VII', 'VIII', 'IXa', 'IX', 'X')
         if r['komponente'] == 'allgemeine_zulage':
-            if (x_vc and 'X-Vc' in r['gilt_fuer_verguetungsgruppe']) or \
-                    (gruppe_zul and r['gilt_fuer_verguetungsgruppe'] == gruppe_zul):
+            if (gruppe in ZULAGE_X_VC and 'X-Vc' in r['gilt_fuer_verguetungsgruppe']) or \
+                    (gruppe in VB_III and r['gilt_fuer_verguetungsgruppe'] == 'III (Vb-III group)'):
                 e[25] = float(r['betrag_dm'])
         if r['komponente'] == 'ortszuschlag_angezeigt':
-            if (x_vc and r['tarifklasse_oz'] == 'II') or (gruppe == 'III' and r['tarifklasse_oz'] == 'Ic'):
+            if (gruppe in OZ_KLASSE_II and r['tarifklasse_oz'] == 'II') or \
+                    (gruppe in VB_III and r['tarifklasse_oz'] == 'Ic'):
                 e[15] = float(r['betrag_dm'])
-    return e, 'BAT%d-%s' % (jahr % 100, '+'.join(sorted(status)))
+    return e, quelle
 
 class Datei:
     def __init__(self):
@@ -175,9 +218,9 @@ def beamte(datei, region, ab_grund, oz, quelle, west97=False, ost=False, anw_ab=
             datei.setzen(51 + g + off, 'Anw. ' + gruppe.split(' (')[0], anw_werte(regionname, anw_ab, gruppe),
                          quelle)
 
-def angestellte(datei, jahr):
+def angestellte(datei, jahr, fortgeschrieben):
     for g, gruppe in enumerate(VKA):
-        w, q = bat_werte(jahr, gruppe)
+        w, q = bat_werte(jahr, gruppe, fortgeschrieben)
         datei.setzen(79 + g, 'BAT VKA ' + gruppe, w, q)
 
 dateien = {(j, n): Datei() for j in (1997, 1998) for n in range(1, 5)}
@@ -188,15 +231,16 @@ beamte(dateien[1997, 3], 'West', '1997-07-01', 'fz', 'West97-abgeleitet', west97
 beamte(dateien[1997, 3], 'Ost', '1997-07-01', 'fz', 'BesUeV97-84', ost=True)
 beamte(dateien[1997, 4], 'West', '1997-07-01', 'fz', 'West97-abgeleitet', west97=True)
 beamte(dateien[1997, 4], 'Ost', '1997-09-01', 'fz', 'BesUeV97-85', ost=True, anw_ab='1997-09-01')
+vka = vka_fortgeschrieben()
 for n in range(1, 5):
-    angestellte(dateien[1997, n], 1997)
+    angestellte(dateien[1997, n], 1997, vka)
 # 1998 file 1 from January, file 2 from September (Ost 86.5 %); files 3 and 4 inactive copies.
 for n in range(1, 5):
     beamte(dateien[1998, n], 'West', '1998-01-01', 'fz', 'BBVAnpG98-West', anw_ab='1998-01-01')
     ab = '1998-01-01' if n == 1 else '1998-09-01'
     beamte(dateien[1998, n], 'Ost', ab, 'fz', 'BBVAnpG98-Ost85' if n == 1 else 'BBVAnpG98-Ost865',
            ost=True, anw_ab=ab)
-    angestellte(dateien[1998, n], 1998)
+    angestellte(dateien[1998, n], 1998, vka)
 
 titel = {
     (1997, 1): 'Lonvir97.1tr: Tarife ab Januar 1997',

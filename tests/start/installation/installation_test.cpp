@@ -289,6 +289,43 @@ TEST(Tariftabellen, OeffentlicheBetraegeStehenAnIhremSatz) {
     EXPECT_EQ(a1.wert[18], 26066);
 }
 
+// BAT VKA groups carried forward from the complete table of 1.5.1995 (VergTV Nr. 30) by the raises
+// of VergTV Nr. 31 (1.3 %) and Nr. 32 (1.5 %), each cell rounded half up to the Pfennig.
+TEST(Tariftabellen, BatVkaGruppenAusDerTabelle1995MitDenErhoehungen) {
+    // Vb (record 79 + 8) Stufe 1: 2550.24 * 1.013 = 2583.39312 -> 2583.39 in 1997, and
+    // 2583.39 * 1.015 = 2622.14085 -> 2622.14 in 1998. Vb stands with III: allgemeine Zulage
+    // 200.90 / 203.91, Ortszuschlag class Ic 860.57 / 873.48.
+    const Tarifsatz vb97 = tarifsatz(installiert, "Lonvir97.1tr", 87);
+    EXPECT_EQ(vb97.wert[0], 258339);
+    EXPECT_EQ(vb97.wert[25], 20090);
+    EXPECT_EQ(vb97.wert[15], 86057);
+    const Tarifsatz vb98 = tarifsatz(installiert, "Lonvir98.1tr", 87);
+    EXPECT_EQ(vb98.wert[0], 262214);
+    EXPECT_EQ(vb98.wert[25], 20391);
+    EXPECT_EQ(vb98.wert[15], 87348);
+    // The published BAT-O table of 1.4.1999 (86.5 % of West raised by 3.1 %) prints Vb Stufe 1
+    // 2338.46: 2622.14 * 1.031 * 0.865 = 2622.14 * 0.891815 = 2338.46378 -> 2338.46.
+    EXPECT_EQ((static_cast<std::int64_t>(vb98.wert[0]) * 891815 + 500000) / 1000000, 233846);
+    // I (record 79) Stufe 12: 8502.77 * 1.013 = 8613.30601 -> 8613.31; no Zulage found for I.
+    const Tarifsatz i97 = tarifsatz(installiert, "Lonvir97.3tr", 79);
+    EXPECT_EQ(i97.wert[11], 861331);
+    EXPECT_EQ(i97.wert[25], 0);
+    // VIII (record 92) Stufe 1: 1857.30 * 1.013 = 1881.4449 -> 1881.44, * 1.015 = 1909.6616
+    // -> 1909.66; Zulage as Vc (188.36 in 1997), Ortszuschlag class II 810.61.
+    const Tarifsatz viii97 = tarifsatz(installiert, "Lonvir97.4tr", 92);
+    EXPECT_EQ(viii97.wert[0], 188144);
+    EXPECT_EQ(viii97.wert[25], 18836);
+    EXPECT_EQ(viii97.wert[15], 81061);
+    EXPECT_EQ(tarifsatz(installiert, "Lonvir98.2tr", 92).wert[0], 190966);
+    // IXa (record 93) has its Ortszuschlag (class II) but no Zulage: its tier was not found.
+    const Tarifsatz ixa97 = tarifsatz(installiert, "Lonvir97.1tr", 93);
+    EXPECT_EQ(ixa97.wert[15], 81061);
+    EXPECT_EQ(ixa97.wert[25], 0);
+    // IIa and IIb (records 82, 83) stay empty: the 1995 table has only a row "II".
+    EXPECT_FALSE(hatbetrag(tarifsatz(installiert, "Lonvir97.1tr", 82)));
+    EXPECT_FALSE(hatbetrag(tarifsatz(installiert, "Lonvir97.1tr", 83)));
+}
+
 // Each block with a public source has basic pay in every group of the class.
 TEST(Tariftabellen, JederBelegteBlockHatGrundgehalt) {
     struct Block {
@@ -309,7 +346,8 @@ TEST(Tariftabellen, JederBelegteBlockHatGrundgehalt) {
             EXPECT_TRUE(hatbetrag(tarifsatz(installiert, b.datei, n))) << b.datei << " Satz " << n;
     for (const char* datei : {"Lonvir97.1tr", "Lonvir97.2tr", "Lonvir97.3tr", "Lonvir97.4tr",
                               "Lonvir98.1tr", "Lonvir98.2tr"})
-        for (int n : {84, 88, 90, 91}) // BAT VKA III, Vc, VIb, VII
+        // BAT VKA I, Ia, Ib, III, IVa, IVb, Vb, Vc, VIb, VII, VIII, IXa
+        for (int n : {79, 80, 81, 84, 85, 86, 87, 88, 90, 91, 92, 93})
             EXPECT_TRUE(hatbetrag(tarifsatz(installiert, datei, n))) << datei << " " << n;
 }
 
