@@ -83,6 +83,15 @@ void Form1::Form_Activate() {
     }
 }
 
+void Form1::SSPanel_Click(int schicht) {
+    s.schicht = static_cast<std::int16_t>(schicht);
+    bild.aktiveSchicht = schicht;
+    dateienoeffnen(s);
+    dimlesen(s);
+    farbenanwenden();
+    bildauffrischen();
+}
+
 void Form1::Form_Unload() {
     dimschreiben(s);
 }

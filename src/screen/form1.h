@@ -117,6 +117,8 @@ public:
     void Form_Click() {}
     void naechsterfocus();
     void tastenauswerten() {}
+    // The layer panels "I  N  F  O", "P  L  A  N", "R  E  A  L": the set of that layer.
+    void SSPanel_Click(int schicht);
 
     // --- one confirmed input as a user makes it, for callers without a window
     // The box emptied, the amount typed in DM and confirmed with Enter ("-" when negative).
