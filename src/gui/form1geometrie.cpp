@@ -143,8 +143,11 @@ void Form1Fenster::bildausrechnen(bool erzwingen) {
                              std::min(r.width(), indikator.width()),
                              std::min(r.height(), indikator.height()));
         }
-    QFont kopfschrift = proportional;
+    // The heading keeps its blanks: fixed pitch, as wide as the cell allows.
+    QFont kopfschrift = fest;
     kopfschrift.setBold(true);
+    kopfschrift.setPixelSize(passend(kopfschrift, schalterkopf_->text(),
+                                     static_cast<int>((wtpBis - listeBis) * links) - 4, hoechste));
     schalterkopf_->setFont(kopfschrift);
     schalterkopf_->setGeometry(zelle(listeBis, wtpBis, 6 * h, h, links));
     bdaBeginn_->setFont(fest);
