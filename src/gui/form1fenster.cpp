@@ -229,7 +229,7 @@ void Form1Fenster::verbinden(int zeile) {
     }
 }
 
-template <typename F> void Form1Fenster::ausfuehren(F&& handler) {
+void Form1Fenster::ausfuehren(const std::function<void()>& handler) {
     if (darstellend_ || laeuft_)
         return;
     laeuft_ = true;

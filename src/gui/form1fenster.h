@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 
 class QCheckBox;
 class QComboBox;
@@ -70,7 +71,7 @@ private:
     void kopfAusrechnen(double breite, double zeilenhoehe);
     void verbinden(int zeile);
     // Runs one handler with the hourglass; a run-time error ends the program with its message.
-    template <typename F> void ausfuehren(F&& handler);
+    void ausfuehren(const std::function<void()>& handler);
     bool zeilenereignis(int zeile, QObject* objekt, QEvent* ereignis);
     bool tastenereignis(int zeile, QLineEdit* feld, QKeyEvent* taste);
     void zeileDarstellen(int zeile);

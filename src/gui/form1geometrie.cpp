@@ -224,6 +224,10 @@ void Form1Fenster::closeEvent(QCloseEvent* ereignis) {
 
 void Form1Fenster::changeEvent(QEvent* ereignis) {
     QMainWindow::changeEvent(ereignis);
+    if (ereignis->type() == QEvent::ActivationChange && isActiveWindow()) {
+        ausfuehren([this] { modell_.Form_Activate(); });
+        return;
+    }
     if (ereignis->type() != QEvent::WindowStateChange)
         return;
     const Fensterzustand zustand = isMinimized()   ? Fensterzustand::minimiert
