@@ -3,6 +3,7 @@
 
 #include "start/dateisatz.h"
 #include "start/einstellungen.h"
+#include "start/start.h"
 
 namespace lonvir {
 
@@ -52,22 +53,14 @@ void Form1::Form_Load() {
 // The place where the user stopped: person, month and layer of the settings of the year.
 void Form1::ortwiederherstellen() {
     const std::int32_t person = s.voreinstellung[15].gerundetInt32();
-    const std::int32_t monat = s.voreinstellung[16].gerundetInt32();
-    const std::int32_t schicht = s.voreinstellung[14].gerundetInt32();
-    bild.aktiveSchicht = schicht >= INFO && schicht <= REAL ? schicht : -1;
-    if (bild.aktiveSchicht >= 0 && schicht != s.schicht) {
-        s.schicht = static_cast<std::int16_t>(schicht);
-        dateienoeffnen(s);
-    }
+    s.aktuelleperson = static_cast<std::int16_t>(person >= 1 && person <= 1000 ? person : 1);
+    bild.aktiveSchicht = lonvir::ortwiederherstellen(s);
     const int letzte = static_cast<int>(bild.zeilen[0].liste.size()) - 1;
-    int position = person - 1;
-    if (position > letzte)
-        position = letzte;
-    if (position < 0)
-        position = 0;
-    s.merkmal[0] = static_cast<std::int16_t>(position);
-    s.aktuelleperson = static_cast<std::int16_t>(position + 1);
-    s.merkmal[20] = static_cast<std::int16_t>(monat >= 0 && monat <= 12 ? monat : 0);
+    if (s.merkmal[0] > letzte)
+        s.merkmal[0] = static_cast<std::int16_t>(letzte);
+    if (s.merkmal[0] < 0)
+        s.merkmal[0] = 0;
+    s.aktuelleperson = static_cast<std::int16_t>(s.merkmal[0] + 1);
     bildauffrischen();
 }
 

@@ -135,8 +135,21 @@ void Form1::monatsliste() {
 }
 
 void Form1::kvliste() {
-    // The 28 funds, then the typed subsidy and "none".
-    textlistesetzen(37, 3628, 3657);
+    // The 28 funds with the month's rate, then the typed subsidy and "none".
+    const int monat = s.merkmal[20] < 12 ? s.merkmal[20] : 11;
+    std::vector<std::string> eintraege;
+    for (int kasse = 0; kasse <= 27; ++kasse) {
+        std::string text = textgetrimmt(s, 3628 + kasse);
+        // The rate is held in hundredths of a percent: 1350 is 13,50 %.
+        const std::int64_t satz = s.kvsatz[monat][kasse].roh() / Currency::skala;
+        if (satz > 0)
+            text += " " + std::to_string(satz / 100) + "," + (satz % 100 < 10 ? "0" : "") +
+                    std::to_string(satz % 100) + " %";
+        eintraege.push_back(std::move(text));
+    }
+    eintraege.push_back(textgetrimmt(s, 3656));
+    eintraege.push_back(textgetrimmt(s, 3657));
+    listesetzen(37, std::move(eintraege));
 }
 
 void Form1::beitragslisten() {

@@ -133,12 +133,22 @@ TEST(Listen, FamilienstandDerBeamtenWechseltImJuli1997) {
     EXPECT_EQ(b.zeile(8).liste[0], "neu");
 }
 
-TEST(Listen, KrankenkassenDannZuschussUndKeine) {
+TEST(Listen, KrankenkassenMitDemSatzDesMonatsDannZuschussUndKeine) {
     test::Bild b;
-    textschreiben(b.u.s, 3656, "Zuschuss");
+    Sitzung& s = b.u.s;
+    textschreiben(s, 3628, "AOK");
+    textschreiben(s, 3629, "BEK");
+    textschreiben(s, 3656, "Zuschuss");
+    s.kvsatz[0][0] = Currency::ganz(1350); // 13.5 % in January
+    s.kvsatz[1][0] = Currency::ganz(1405); // 14.05 % in February
     b.f.kvliste();
     ASSERT_EQ(b.zeile(37).liste.size(), 30u); // 28 funds, 3656, 3657
+    EXPECT_EQ(b.zeile(37).liste[0], "AOK 13,50 %");
+    EXPECT_EQ(b.zeile(37).liste[1], "BEK"); // no rate stored
     EXPECT_EQ(b.zeile(37).liste[28], "Zuschuss");
+    s.merkmal[20] = 1;
+    b.f.kvliste();
+    EXPECT_EQ(b.zeile(37).liste[0], "AOK 14,05 %");
 }
 
 TEST(Listen, BeitragslistenTragenDieSaetzeDerEinstellungen) {
