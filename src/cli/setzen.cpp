@@ -61,8 +61,12 @@ void eingabeausfuehren(Kontext& k, Form1& f) {
     } else if (o.wert("betrag")) {
         const int zeile = static_cast<int>(o.zahl("zeile", 0, 45));
         betragpruefen(f, zeile);
-        f.betragtippen(zeile,
-                       static_cast<std::int32_t>(o.zahl("betrag", -2147483647L, 2147483647L)));
+        const auto betrag = static_cast<std::int32_t>(o.zahl("betrag", -2147483647L, 2147483647L));
+        // The box resets itself at its eighth character: such an amount cannot be typed.
+        if (betragseingabe(betrag).size() >= 8)
+            throw Aufruffehler("Der Betrag " + betragseingabe(betrag) +
+                               " hat mehr als sieben Zeichen; das Betragsfeld nimmt ihn nicht an.");
+        f.betragtippen(zeile, betrag);
     } else {
         const int zeile = static_cast<int>(o.zahl("zeile", 1, 45));
         if (zeile == 20)

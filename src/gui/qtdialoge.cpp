@@ -2,6 +2,7 @@
 #include "gui/qtdialoge.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -70,7 +71,11 @@ Knopf QtDialoge::zeigen(const Meldung& meldung) {
     for (const auto& [knopf, text] : deutsch)
         if (QAbstractButton* b = box.button(knopf))
             b->setText(QString::fromUtf8(text));
-    return knopfVon(box.exec());
+    // The hourglass of the running handler gives way to the arrow while the box is up.
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
+    const int gedrueckt = box.exec();
+    QApplication::restoreOverrideCursor();
+    return knopfVon(gedrueckt);
 }
 
 void QtHilfe::zeigen(int kontext) {
