@@ -66,13 +66,13 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("lonvir97"));
     const Aufruf aufruf = aufrufLesen(app);
 
-    lonvir::gui::Startform start;
+    lonvir::gui::QtHilfe hilfe(aufruf.ordner);
+    lonvir::gui::Startform start(&hilfe);
     start.zeigenMittig();
     QApplication::processEvents();
 
     lonvir::Sitzung s;
     lonvir::gui::QtDialoge dialoge(&start);
-    lonvir::gui::QtHilfe hilfe(aufruf.ordner);
     s.dialoge = &dialoge;
     const std::filesystem::path ordner = QDir(aufruf.ordner).absolutePath().toStdString();
     s.ordner = lonvir::Arbeitsordner(ordner);

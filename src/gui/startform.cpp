@@ -3,13 +3,14 @@
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
 
 namespace lonvir::gui {
 
-Startform::Startform(QWidget* eltern) : QWidget(eltern, Qt::Dialog) {
+Startform::Startform(Hilfe* hilfe, QWidget* eltern) : QWidget(eltern, Qt::Dialog), hilfe_(hilfe) {
     setWindowTitle(QStringLiteral("\"Lonvir 97\"  startet. Bitte warten ..."));
     setCursor(Qt::WaitCursor);
     auto* layout = new QVBoxLayout(this);
@@ -35,6 +36,13 @@ void Startform::zeigenMittig() {
         move((flaeche.width() - width()) / 2, (flaeche.height() - height()) / 2);
     }
     show();
+}
+
+void Startform::keyPressEvent(QKeyEvent* ereignis) {
+    if (ereignis->key() == Qt::Key_F1 && hilfe_)
+        hilfe_->zeigen(96201);
+    else
+        QWidget::keyPressEvent(ereignis);
 }
 
 } // namespace lonvir::gui

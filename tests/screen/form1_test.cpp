@@ -98,6 +98,20 @@ TEST(Form1, SchliessenSchreibtDieFensterlageBeendenNicht) {
     EXPECT_EQ(u.s.dim.form1width, Currency::ganz(9000));
 }
 
+TEST(Form1, BeendenVerliertDenNichtBestaetigtenWert) {
+    test::Bild b;
+    b.f.t_GotFocus(12);
+    b.zeile(12).wert.clear();
+    for (char c : std::string("250"))
+        if (b.f.t_KeyPress(12, c) != 0)
+            b.zeile(12).wert += c;
+    EXPECT_EQ(b.zeile(12).wert, "250");
+    b.f.MBeenden();
+    EXPECT_TRUE(b.f.beendet);
+    EXPECT_EQ(b.u.s.eingabe[12], 0);
+    EXPECT_EQ(personalsatzlesen(b.u.s, 1, 1).wert[12], 0);
+}
+
 TEST(Form1, AktivierungTrittInDieLetzteZeileWiederEin) {
     test::Bild b;
     // What the calculator's transfer leaves: the value in row 12, the flag set.
