@@ -2,7 +2,6 @@
 #include "cli/monatsausgabe.h"
 
 #include "core/cp1252.h"
-#include "engine/monatladen.h"
 #include "screen/betragstext.h"
 
 #include <iomanip>
@@ -57,12 +56,23 @@ void alsText(Kontext& k, std::ostream& aus) {
 } // namespace
 
 void monatwaehlen(Kontext& k) {
+    const std::unique_ptr<Form1> form = hauptformoeffnen(k);
+}
+
+std::unique_ptr<Form1> hauptformoeffnen(Kontext& k) {
     const long person = k.optionen.zahl("person", 1, 1000);
     if (person > k.s.anzahlnamen)
         throw Aufruffehler("Person " + std::to_string(person) + " gibt es nicht; angelegt sind " +
                            std::to_string(k.s.anzahlnamen) + ".");
     const long monat = k.optionen.zahl("monat", 1, 13);
-    monatladen(k.s, static_cast<std::int16_t>(person), static_cast<std::int16_t>(monat - 1));
+    auto form = std::make_unique<Form1>(k.s);
+    form->listenfuellen();
+    form->namensliste();
+    k.s.aktuelleperson = static_cast<std::int16_t>(person);
+    k.s.merkmal[0] = static_cast<std::int16_t>(person - 1);
+    k.s.merkmal[20] = static_cast<std::int16_t>(monat - 1);
+    form->bildauffrischen();
+    return form;
 }
 
 void monatausgeben(Kontext& k, std::ostream& aus) {

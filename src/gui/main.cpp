@@ -1,0 +1,111 @@
+// lonvir97: the start form, the session on the working folder, the main form Form1.
+#include "core/laufzeitfehler.h"
+#include "gui/form1fenster.h"
+#include "gui/qtdialoge.h"
+#include "gui/startform.h"
+#include "start/start.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QMessageBox>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <iostream>
+
+namespace {
+
+struct Aufruf {
+    QString ordner;
+    QString bildschirmfoto; // file of a picture of the window, then the program ends
+    QSize groesse;          // window size for the picture
+};
+
+Aufruf aufrufLesen(const QApplication& app) {
+    QCommandLineParser p;
+    p.setApplicationDescription(QStringLiteral("Gehaltsrechner für den öffentlichen Dienst"));
+    p.addHelpOption();
+    const QCommandLineOption ordner(QStringLiteral("ordner"), QStringLiteral("Arbeitsordner"),
+                                    QStringLiteral("DIR"));
+    const QCommandLineOption foto(QStringLiteral("bildschirmfoto"),
+                                  QStringLiteral("Bild des Fensters in DATEI, dann Ende"),
+                                  QStringLiteral("DATEI"));
+    const QCommandLineOption groesse(QStringLiteral("groesse"),
+                                     QStringLiteral("Fenstergröße für das Bild, BREITExHÖHE"),
+                                     QStringLiteral("BxH"));
+    p.addOptions({ordner, foto, groesse});
+    p.process(app);
+    Aufruf a;
+    a.ordner = p.isSet(ordner) ? p.value(ordner)
+                               : QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    a.bildschirmfoto = p.value(foto);
+    const QStringList teile = p.value(groesse).split(QLatin1Char('x'));
+    if (teile.size() == 2)
+        a.groesse = QSize(teile[0].toInt(), teile[1].toInt());
+    return a;
+}
+
+void fotografieren(lonvir::gui::Form1Fenster& fenster, const Aufruf& a) {
+    fenster.geometrieFesthalten();
+    if (a.groesse.isValid())
+        fenster.resize(a.groesse);
+    QTimer::singleShot(500, &fenster, [&fenster, a] {
+        fenster.bildausrechnen(true);
+        fenster.darstellen();
+        const bool gespeichert = fenster.grab().save(a.bildschirmfoto);
+        QApplication::exit(gespeichert ? 0 : 4);
+    });
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("lonvir97"));
+    const Aufruf aufruf = aufrufLesen(app);
+
+    lonvir::gui::QtHilfe hilfe(aufruf.ordner);
+    lonvir::gui::Startform start(&hilfe);
+    start.zeigenMittig();
+    QApplication::processEvents();
+
+    lonvir::Sitzung s;
+    lonvir::gui::QtDialoge dialoge(&start);
+    s.dialoge = &dialoge;
+    const std::filesystem::path ordner = QDir(aufruf.ordner).absolutePath().toStdString();
+    s.ordner = lonvir::Arbeitsordner(ordner);
+    if (const QScreen* bildschirm = QGuiApplication::primaryScreen()) {
+        // The screen in twips, for the default window place of a new installation.
+        const double tpp = 1440.0 / bildschirm->logicalDotsPerInchX();
+        s.bildschirmhoehe = static_cast<std::int32_t>(bildschirm->geometry().height() * tpp);
+        s.bildschirmbreite = static_cast<std::int32_t>(bildschirm->geometry().width() * tpp);
+    }
+    try {
+        s.ordner.anlegen();
+        const lonvir::Startergebnis ergebnis = lonvir::starten(s);
+        if (ergebnis == lonvir::Startergebnis::angehalten)
+            return app.exec(); // the start form stays up; no main form follows
+        if (ergebnis == lonvir::Startergebnis::passwort) {
+            QMessageBox::warning(&start, QStringLiteral("Passwort"),
+                                 QStringLiteral("Die Startsperre ist gesetzt. Die Eingabe des "
+                                                "Passworts ist in dieser Fassung noch nicht "
+                                                "möglich."));
+            return 1;
+        }
+        lonvir::gui::Form1Fenster fenster(s, dialoge, &hilfe);
+        dialoge.elternSetzen(&fenster);
+        fenster.laden();
+        start.close();
+        fenster.show();
+        if (!aufruf.bildschirmfoto.isEmpty())
+            fotografieren(fenster, aufruf);
+        return app.exec();
+    } catch (const std::exception& fehler) {
+        QMessageBox::critical(nullptr, QStringLiteral("Lonvir 97"),
+                              QString::fromUtf8(fehler.what()));
+        std::cerr << fehler.what() << "\n";
+        return 3;
+    }
+}

@@ -1,0 +1,166 @@
+// The main form's life: load, activation, the window state, the keys of the calculator, the end.
+#include "screen/form1.h"
+
+#include "start/dateisatz.h"
+#include "start/einstellungen.h"
+#include "start/start.h"
+
+namespace lonvir {
+
+namespace {
+// Rows without a list, and rows whose list has no box beside it.
+bool ohneListe(int zeile) {
+    return zeile == 27;
+}
+bool ohneWertfeld(int zeile) {
+    return zeile == 6 || zeile == 27 || zeile == 28 || zeile == 29 || zeile == 32;
+}
+} // namespace
+
+Form1::Form1(Sitzung& sitzung, Hilfe* h, Rechnertasten* r)
+    : s(sitzung), hilfe(h), rechner(r), vorherigeAnzeige_(sitzung.anzeige) {
+    for (int zeile = 0; zeile <= 45; ++zeile) {
+        Bildzeile& z = bild.zeilen[static_cast<std::size_t>(zeile)];
+        z.hatListe = !ohneListe(zeile);
+        z.hatWertfeld = !ohneWertfeld(zeile);
+        z.position = z.hatListe ? 0 : -1;
+    }
+    s.anzeige = this;
+}
+
+Form1::~Form1() {
+    if (s.anzeige == this)
+        s.anzeige = vorherigeAnzeige_;
+}
+
+void Form1::Form_Load() {
+    bild.sanduhr = true;
+    s.aenderungssperre = -1;
+    listenfuellen();
+    namensliste();
+    s.aktuelleperson = 1;
+    // The 1998 entries of the menu wait until a 1998 set has been filled.
+    bild.jahr1998 = !s.ist1997() || s.ordner.laenge("L1998I.1") >= 1;
+    s.startphase = 0;
+    farbenanwenden();
+    bild.titel = std::string("LONVIR ") + (s.ist1997() ? "1997" : std::to_string(s.jahr)) +
+                 " im öffentlichen Dienst    (ohne Gewähr)";
+    ortwiederherstellen();
+    s.aenderungssperre = 0;
+    bild.sanduhr = false;
+}
+
+// The place where the user stopped: person, month and layer of the settings of the year.
+void Form1::ortwiederherstellen() {
+    const std::int32_t person = s.voreinstellung[15].gerundetInt32();
+    s.aktuelleperson = static_cast<std::int16_t>(person >= 1 && person <= 1000 ? person : 1);
+    bild.aktiveSchicht = lonvir::ortwiederherstellen(s);
+    const int letzte = static_cast<int>(bild.zeilen[0].liste.size()) - 1;
+    if (s.merkmal[0] > letzte)
+        s.merkmal[0] = static_cast<std::int16_t>(letzte);
+    if (s.merkmal[0] < 0)
+        s.merkmal[0] = 0;
+    s.aktuelleperson = static_cast<std::int16_t>(s.merkmal[0] + 1);
+    bildauffrischen();
+}
+
+void Form1::Form_Activate() {
+    if (wiedereintritt) {
+        wiedereintritt = false;
+        const int zeile = s.aktuellezeile <= 1 ? 17 : s.aktuellezeile;
+        z_Click(zeile);
+    }
+    if (seiteverlangtauffrischen) {
+        seiteverlangtauffrischen = false;
+        bildauffrischen();
+    }
+}
+
+void Form1::SSPanel_Click(int schicht) {
+    s.schicht = static_cast<std::int16_t>(schicht);
+    bild.aktiveSchicht = schicht;
+    dateienoeffnen(s);
+    dimlesen(s);
+    farbenanwenden();
+    bildauffrischen();
+}
+
+void Form1::Form_Unload() {
+    dimschreiben(s);
+}
+
+void Form1::MBeenden() {
+    // Every calculation has stored its month and the settings already: nothing is written.
+    beendet = true;
+}
+
+Fensteraktion Form1::bildanpassen(Fensterzustand zustand) {
+    Fensteraktion a;
+    if (zustand == Fensterzustand::normal) {
+        a.ausrechnen = true;
+    } else if (zustand == Fensterzustand::minimiert) {
+        // Three tests one after the other: every state ends at 0 with the panel closed.
+        if (fensterstufe == 1) {
+            a.neuerzustand = Fensterzustand::maximiert;
+            fensterstufe = 2;
+        }
+        if (fensterstufe == 2) {
+            a.neuerzustand = Fensterzustand::normal;
+            fensterstufe = 0;
+        }
+        if (fensterstufe == 0)
+            a.tablettschliessen = true;
+    } else {
+        if (fensterstufe == 1) {
+            a.neuerzustand = Fensterzustand::normal;
+            fensterstufe = 0;
+        }
+        if (fensterstufe == 2) {
+            a.neuerzustand = Fensterzustand::minimiert;
+            fensterstufe = 1;
+        }
+        a.ausrechnen = true;
+    }
+    return a;
+}
+
+int Form1::Form_KeyPress(int key, bool zeilehatfokus) {
+    if (zeilehatfokus || rechner == nullptr)
+        return key;
+    if (key >= '0' && key <= '9') {
+        rechner->number_Click(key - '0');
+    } else if (key == '+') {
+        rechner->operator_Click(0);
+    } else if (key == '-') {
+        rechner->Eintrag_Click();
+    } else if (key == '*') {
+        rechner->operator_Click(2);
+    } else if (key == '/') {
+        rechner->operator_Click(3);
+    } else if (key == '=') {
+        rechner->operator_Click(4);
+    } else if (key == ',') {
+        rechner->decimalp_Click();
+    } else {
+        return key;
+    }
+    return 0;
+}
+
+std::optional<int> hilfekontext(int personalart, int zeile) {
+    // The help file has row topics for Besoldungsordnung A, C and R and for BAT.
+    switch (personalart) {
+    case 0:
+        return 11000 + zeile;
+    case 2:
+        return 12500 + zeile;
+    case 3:
+        return 45000 + zeile;
+    case 5:
+        return 96200 + zeile;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace lonvir
