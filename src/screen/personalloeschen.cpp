@@ -3,11 +3,8 @@
 
 #include "records/personalsatz.h"
 #include "start/dateisatz.h"
-#include "start/einstellungen.h"
 #include "start/personenanlegen.h"
 #include "start/texte.h"
-
-#include <vector>
 
 namespace lonvir {
 
@@ -58,16 +55,8 @@ void datensaetzeanlegen(Sitzung& s) {
     const std::int32_t gespeichert = gespeichertesaetze(s);
     if (s.anzahlnamen <= gespeichert)
         return;
-    for (int monat = 1; monat <= 12; ++monat) {
-        const auto b = Personalsatz::neu(static_cast<std::int16_t>(monat - 1)).bytes();
-        for (std::int32_t nummer = gespeichert; nummer <= s.anzahlnamen; ++nummer)
-            s.datei(monat).schreiben(nummer, b);
-    }
-    const std::vector<std::uint8_t> leer(1280, ' ');
-    for (std::int32_t nummer = gespeichert; nummer <= s.anzahlnamen; ++nummer)
-        s.datei(datei::jahressaetze).schreiben(nummer, leer);
-    s.dim.anzahlpersonen = s.anzahlnamen;
-    dimschreiben(s);
+    Personalsatz satz = Personalsatz::neu(0);
+    schichtfuellen(s, gespeichert, satz);
 }
 
 } // namespace
