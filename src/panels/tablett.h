@@ -122,6 +122,9 @@ using Seitenbauer = std::function<void(Tablett&)>;
 class Tablett {
 public:
     Tablett(Sitzung& s, Form1lage& form, Hilfe* hilfe = nullptr);
+    // One panel per main form: its builders keep a pointer to it.
+    Tablett(const Tablett&) = delete;
+    Tablett& operator=(const Tablett&) = delete;
 
     Sitzung& s;
     Form1lage& form;

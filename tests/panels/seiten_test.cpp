@@ -283,6 +283,31 @@ TEST(Seiten, EinLaufFrischtDieSeiten6Und8AufAberNicht29) {
     u.s.anzeige = nullptr;
 }
 
+// A run refreshes an open page 8 with the builders of the supplementary pension, whatever
+// the staff class: a civil servant's levy page then gives way to them until it is opened again.
+TEST(Seiten, EinLaufFrischtSeite8MitDenZvkBauernAufAuchBeiBeamten) {
+    test::Umgebung u;
+    textesetzen(u.s);
+    Personalsatz p = personalsatzlesen(u.s, 1, 1);
+    p.merkmal[4] = 0;
+    p.wert[12] = 300000;
+    personalsatzschreiben(u.s, 1, 1, p);
+    monatladen(u.s, 1, 0);
+    Form1lage f = hauptform();
+    Tablett t(u.s, f);
+    Tablettanzeige anzeige(t, nullptr);
+    u.s.anzeige = &anzeige;
+    oeffnen(t, 8);
+    ASSERT_EQ(t.zeile[0].text, "U M L A G E   F Ü R   D I E");
+    u.s.aenderungscode = 12;
+    berechnen(u.s);
+    EXPECT_EQ(t.zeile[0].text, "Z U S A T Z V E R S O R G U N G");
+    EXPECT_EQ(t.zeile[3].text, textlesen(u.s, 3806));
+    oeffnen(t, 8);
+    EXPECT_EQ(t.zeile[0].text, "U M L A G E   F Ü R   D I E");
+    u.s.anzeige = nullptr;
+}
+
 TEST(Seiten, DieSozialversicherungsbauerStehenUnterSeite7) {
     test::Umgebung u;
     textesetzen(u.s);
