@@ -15,7 +15,7 @@ namespace {
 const char* const aufruf =
     "Aufruf: lonvir97-cli BEFEHL [--ordner DIR] [--jahr 1997|1998] [--schicht INFO|PLAN|REAL]\n"
     "                    [--json] [--ja|--nein] ...\n"
-    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, installieren\n";
+    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, installieren\n";
 
 std::filesystem::path standardordner() {
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
@@ -86,6 +86,8 @@ int ausfuehren(int argc, char** argv) {
             befehl = lohnsteuer;
         else if (o.befehl() == "tabelle")
             befehl = tabelle;
+        else if (o.befehl() == "uebertragen")
+            befehl = uebertragen;
         else if (o.befehl() == "installieren")
             return installieren(o, std::cout);
         else

@@ -25,6 +25,8 @@ void namenvergeben(Sitzung& s) {
     s.anzahlnamen = 20;
 }
 
+} // namespace
+
 void schichtfuellen(Sitzung& s, std::int32_t ab, Personalsatz& satz) {
     for (int monat = 1; monat <= 12; ++monat) {
         satz.merkmal[20] = static_cast<std::int16_t>(monat - 1);
@@ -38,8 +40,6 @@ void schichtfuellen(Sitzung& s, std::int32_t ab, Personalsatz& satz) {
     s.dim.anzahlpersonen = s.anzahlnamen;
     dimschreiben(s);
 }
-
-} // namespace
 
 void personenanlegen(Sitzung& s) {
     s.anzahlnamen = personenzaehlen(s);

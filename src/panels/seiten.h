@@ -1,0 +1,42 @@
+// The page builders of the panel, and the layout they share.
+#pragma once
+
+#include "panels/tablett.h"
+
+namespace lonvir {
+
+// Page 6: the wage-tax steps of the month, captions from text record 3743 on; two builders,
+// the captions and the amounts of lstwert.
+void lohnsteuerzeilen(Tablett& t);
+void lohnsteuerbetraege(Tablett& t);
+// Page 29: the social-insurance steps, captions from text record 3773 on, amounts of svwert.
+void sozialzeilen(Tablett& t);
+void sozialbetraege(Tablett& t);
+// Page 8 for staff classes above 4: the supplementary pension, captions from 3803 on.
+void zvkzeilen(Tablett& t);
+void zvkbetraege(Tablett& t);
+// Page 8 for civil servants: the pension levy row by row.
+void umlageseite(Tablett& t);
+// Page 35: the part-time pay explained row by row.
+void teilzeitseite(Tablett& t);
+// Page 23: the person's remark card, and its store by Command1 "Speichern".
+void jahreswertespeichern(Tablett& t);
+void jahreswerteseite(Tablett& t);
+
+namespace seitenlage {
+constexpr int anfang = 150;  // top of the first row
+constexpr int abstand = 240; // pitch of the rows of the explaining pages
+constexpr int links = 100;
+constexpr int kastenbreite = 1100;
+} // namespace seitenlage
+
+// Row i of an explaining page: caption and, unless `betrag` is empty, the amount's cell.
+void erklaerzeile(Tablett& t, int i, const std::string& text,
+                  const std::optional<std::int32_t>& betrag);
+// The heading in row 0, bold.
+void ueberschrift(Tablett& t, const std::string& text);
+
+// The filler of the explaining pages.
+inline constexpr const char* punktzeile = ".....................................................";
+
+} // namespace lonvir

@@ -1,0 +1,154 @@
+// The events of the panel: the buttons, the clicks that hand back to Form1, the form's own.
+#include "panels/seiten.h"
+#include "panels/tablett.h"
+
+namespace lonvir {
+
+namespace {
+
+// Pages whose click on a caption, a cell or the form hands back to the main screen.
+bool erklaerseite(int seite) {
+    return seite == 6 || seite == 8 || seite == 29 || seite == 35;
+}
+
+// The help context of Command3 by page; none where the page has no such button.
+std::optional<std::int32_t> hilfekontext(int seite, int personalart) {
+    switch (seite) {
+    case 21:
+        return 90020;
+    case 23:
+        return 90000;
+    case 26:
+        return 90010;
+    case 28:
+        return 96110;
+    case 29:
+        return 96100;
+    case 32:
+        return 96150;
+    case 34:
+        return 96170;
+    case 37:
+        return 96194;
+    case 38:
+        return 96190;
+    case 40:
+        return 96204;
+    case 42:
+        switch (personalart) {
+        case 0:
+            return 11000;
+        case 2:
+            return 12500;
+        case 3:
+            return 45000;
+        case 5:
+            return 96200;
+        }
+        return std::nullopt; // any other keeps the last value
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+void Tablett::schliessen() {
+    sichtbar = false;
+    form.panel3d2sichtbar = true;
+}
+
+void Tablett::Command1_Click() {
+    if (s.Tablettseite == 23)
+        jahreswertespeichern(*this);
+}
+
+void Tablett::command2_Click() {
+    switch (s.Tablettseite) {
+    case 22:
+    case 44:
+    case 61:
+    case 63:
+    case 64:
+    case 65:
+        for (int i = 0; i <= 4; ++i)
+            Combo[i].aktiv = true;
+        schliessen();
+        break;
+    case 2:
+    case 66:
+    case 67:
+    case 68:
+        schliessen();
+        break;
+    default:
+        break;
+    }
+}
+
+void Tablett::Command3_Click() {
+    const int seite = s.Tablettseite;
+    const auto kontext = hilfekontext(seite, s.personalart());
+    if (kontext)
+        Hilfeseite = *kontext;
+    else if (seite != 42)
+        return;
+    if (hilfe)
+        hilfe->zeigen(Hilfeseite);
+}
+
+void Tablett::combo_GotFocus(int index) {
+    Comboaktiv = 1;
+    fokus = {Fokusart::combo, index};
+}
+
+void Tablett::text_GotFocus(int index) {
+    fokus = {Fokusart::text, index};
+}
+
+void Tablett::zeile_Click(int) {
+    if (erklaerseite(s.Tablettseite))
+        schliessen();
+}
+
+void Tablett::kasten_Click(int) {
+    if (!erklaerseite(s.Tablettseite))
+        return;
+    schliessen();
+    if (s.Tablettseite == 6)
+        formwunsch = "LStrTab";
+}
+
+void Tablett::Form_Click() {
+    if (erklaerseite(s.Tablettseite))
+        schliessen();
+}
+
+void Tablett::Form_Load() {
+    gespeichert = false;
+}
+
+void Tablett::Form_Activate() {
+    Text[1].passwortzeichen.clear();
+}
+
+void Tablett::Form_Deactivate() {
+    if (s.bruttomodus != 1)
+        return;
+    s.bruttomodus = 0;
+    s.Neuberechnung = 0;
+    s.aktuellezeile = 45;
+    s.Tablettseite = 8;
+}
+
+void Tablett::Form_Unload() {
+    if (s.Tablettseite != 44 || gespeichert)
+        return;
+    if (s.dialoge)
+        s.dialoge->zeigen({"Kein Speichern",
+                           "Sie haben das Eingabefenster VOREINSTELLUNGEN verlassen, ohne die "
+                           "Änderungen durch Anklicken der Schaltfläche SPEICHERN zu sichern.",
+                           Symbol::ausruf, Knoepfe::ok});
+    schliessen();
+}
+
+} // namespace lonvir

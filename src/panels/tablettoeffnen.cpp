@@ -1,0 +1,150 @@
+// Opening a page: clear, width, placement beside or over the left column, dispatch, show.
+#include "panels/seiten.h"
+#include "panels/tablett.h"
+
+namespace lonvir {
+
+Tablett::Tablett(Sitzung& sitzung, Form1lage& f, Hilfe* h) : s(sitzung), form(f), hilfe(h) {
+    bauer_[6] = [](Tablett& t) {
+        lohnsteuerzeilen(t);
+        lohnsteuerbetraege(t);
+    };
+    bauer_[7] = [](Tablett&) {}; // reserved: only the width rule of 4550 applies
+    bauer_[8] = [](Tablett& t) {
+        if (t.s.personalart() > 4) {
+            zvkzeilen(t);
+            zvkbetraege(t);
+        } else {
+            umlageseite(t);
+        }
+    };
+    bauer_[23] = jahreswerteseite;
+    bauer_[29] = [](Tablett& t) {
+        sozialzeilen(t);
+        sozialbetraege(t);
+    };
+    bauer_[35] = teilzeitseite;
+    zeilenname = [this](int z) { return zeilenbezeichnung(s, z); };
+}
+
+void Tablett::seiteanmelden(int seite, Seitenbauer bauer) {
+    bauer_.try_emplace(seite, std::move(bauer));
+}
+
+void Tablett::tablettoeffnen() {
+    // 1.
+    wirdgeoeffnet = true;
+    tablettleeren();
+    // 2.
+    breiteregel();
+    // 3. and 4.
+    platzieren();
+    // 5.
+    verteilen();
+    // 6. The menu put up the hourglass; the page takes it down.
+    sichtbar = true;
+    sanduhr = false;
+    wirdgeoeffnet = false;
+}
+
+void Tablett::breiteregel() {
+    const int seite = s.Tablettseite;
+    if (seite < 2 || seite > 35)
+        return;
+    const auto mindestens = [this](int mindestbreite) {
+        const int breite =
+            form.panel3d2breite > mindestbreite ? form.panel3d2breite : mindestbreite;
+        Tablettbreite = static_cast<std::int16_t>(breite);
+    };
+    if (seite == 2 || seite == 8 || seite == 22 || seite == 29 || seite == 35)
+        mindestens(3200);
+    else if (seite == 7)
+        mindestens(4550);
+}
+
+void Tablett::platzieren() {
+    if (s.bruttomodus == 0) {
+        // The panel takes the place of the hidden result column at the right edge.
+        form.panel3d2sichtbar = false;
+        lage.links = form.links + form.breite - Tablettbreite;
+        lage.breite = Tablettbreite;
+        lage.oben = form.oben + 640;
+        lage.hoehe = form.panel3d2hoehe;
+    } else {
+        // The gross slider lies over the rows of the left column; the results stay in view.
+        lage.links = form.links;
+        lage.breite = form.panel3d1breite;
+        lage.oben = form.zeile5oben + form.oben + 640;
+        lage.hoehe = form.zeile19oben - form.zeile4oben;
+    }
+}
+
+void Tablett::verteilen() {
+    const auto bauer = bauer_.find(s.Tablettseite);
+    if (bauer != bauer_.end())
+        bauer->second(*this);
+}
+
+void Tablett::auffrischen() {
+    switch (s.Tablettseite) {
+    case 6:
+        lohnsteuerzeilen(*this);
+        lohnsteuerbetraege(*this);
+        break;
+    case 8:
+        zvkzeilen(*this);
+        zvkbetraege(*this);
+        break;
+    case 35:
+        teilzeitseite(*this);
+        break;
+    case 7:
+        // The social-insurance builders stand here under a number no menu sets: the open
+        // page 29 is not refreshed by a run.
+        sozialzeilen(*this);
+        sozialbetraege(*this);
+        break;
+    default:
+        break;
+    }
+}
+
+void Tablett::tablettleeren() {
+    sichtbar = false;
+    if (Schirmsperre == -1)
+        return;
+    for (Tablettknopf* k : {&Command1, &Command2, &Command3, &Command4})
+        k->sichtbar = false;
+    Command1.schriftgroesse = 8.25;
+    for (int i = 0; i <= 17; ++i) {
+        Text[i].sichtbar = false;
+        Text[i].vordergrund = 0;
+        Text[i].hintergrund = 15;
+        Combo[i].sichtbar = false;
+        Combo[i].vordergrund = 0;
+    }
+    for (int i = 0; i <= 28; ++i) {
+        Tablettzeile& z = zeile[i];
+        z.sichtbar = false;
+        z.fett = false;
+        z.vordergrund = 0;
+        z.hintergrund = 7;
+        z.rahmen = false;
+        z.schrift = "arial";
+        Tablettkasten& k = kasten[i];
+        k.hintergrund = 7;
+        k.text.clear();
+        k.autogroesse = true;
+        k.schriftgroesse = 8.25;
+        k.fase = 0;
+        k.lage.breite = 1100;
+        k.sichtbar = false;
+    }
+    for (Tablettrollbalken* r : {&HScroll1, &HScroll2, &HScroll3})
+        r->sichtbar = false;
+    hintergrund = 7;
+    Grid1.sichtbar = false;
+    Grid2.sichtbar = false;
+}
+
+} // namespace lonvir

@@ -1,0 +1,197 @@
+// The menu bar of Form1 in the designed order, and what its entries do.
+#include "screen/hauptmenue.h"
+
+#include "screen/navigation.h"
+#include "screen/personalloeschen.h"
+
+namespace lonvir {
+
+namespace {
+
+Menuepunkt eintrag(std::string name, std::string text, Menueaktion aktion, int zahl) {
+    Menuepunkt p;
+    p.name = std::move(name);
+    p.text = std::move(text);
+    p.aktion = aktion;
+    p.zahl = zahl;
+    return p;
+}
+
+Menuepunkt menue(std::string name, std::string text, std::vector<Menuepunkt> punkte) {
+    Menuepunkt p = eintrag(std::move(name), std::move(text), Menueaktion::keine, 0);
+    p.punkte = std::move(punkte);
+    return p;
+}
+
+Menuepunkt seite(std::string name, std::string text, int nummer) {
+    return eintrag(std::move(name), std::move(text), Menueaktion::seite, nummer);
+}
+
+Menuepunkt thema(std::string name, std::string text, int kontext) {
+    return eintrag(std::move(name), std::move(text), Menueaktion::hilfe, kontext);
+}
+
+Menuepunkt jahresmenue(const Sitzung& s, int jahr, bool jahr1998) {
+    const std::string j = std::to_string(jahr);
+    Menuepunkt wahl = eintrag("M" + j, "Berechnungen für " + j, Menueaktion::jahr, jahr);
+    wahl.markiert = jahrgewaehlt(s, jahr);
+    Menuepunkt loeschen = eintrag("MSaetze" + j, j + "er Personaldaten löschen ...",
+                                  Menueaktion::personalloeschen, jahr);
+    if (jahr == 1998) {
+        wahl.aktiv = jahr1998;
+        loeschen.aktiv = jahr1998;
+    }
+    return menue(jahr == 1997 ? "M97" : "M98", jahr == 1997 ? "97" : "98",
+                 {std::move(wahl), std::move(loeschen)});
+}
+
+std::vector<Menuepunkt> tabellenthemen() {
+    return {
+        thema("MBeamteWest1_97", "Beamte West ab 1/97", 33010),
+        thema("MBeamteWest3_97", "Beamte West ab 3/97", 33011),
+        thema("MBeamteWest7_97", "Beamte West ab 7/97", 33012),
+        thema("MBeamteOst1_97", "Beamte Ost ab 1/97", 71010),
+        thema("MBeamteOst3_97", "Beamte Ost ab 3/97", 70011),
+        thema("MBeamteOst7_97", "Beamte Ost ab 7/97", 33091),
+        thema("MBeamteOst_9_97", "Beamte Ost ab 9/97", 33092),
+        thema("MAngestWestBL", "Angestellte West B/L ab 1/97", 33100),
+        thema("MAngestWestVKA1_97", "Angestellte West VKA ab 1/97", 33150),
+        thema("MAngestKR1_97", "Angestellte West Pflegedienst ab 1/97", 33170),
+        thema("MAngestOstBL1_97", "Angestellte Ost B/L ab  1/97", 70100),
+        thema("MAngestOstVKA1_97", "Angestellte Ost VKA ab 1/97", 70200),
+        thema("MAngestOstPflege1_97", "Angestellte Ost Pflegedienst ab 1/97", 70250),
+        thema("MAngestOstBL9_97", "Angestellte Ost B/L ab 9/97", 70109),
+        thema("MAngestOstVKA9_97", "Angestellte Ost VKA ab 9/97", 70209),
+        thema("MAngestOstKR9_97", "Angestellte Ost Pflegedienst ab 9/97", 70259),
+    };
+}
+
+std::vector<Menuepunkt> infothemen() {
+    return {
+        thema("MÜberreicht", "Überreicht durch", 96201),
+        thema("MLonvir97", "Über LONVIR97", 20940),
+        thema("Mneu", "In diesem Update ist neu:", 96857),
+        thema("MUpdate", "Update", 90006),
+        thema("MBeihilfe", "Beihilfe", 20900),
+        thema("MVorschlaege", "Vorschläge", 96150),
+        thema("MDank", "Dankeschön", 96807),
+        thema("MGeschenke", "Geschenke", 20930),
+    };
+}
+
+const Menuepunkt* suchen(const std::vector<Menuepunkt>& punkte, const std::string& name) {
+    for (const Menuepunkt& p : punkte) {
+        if (p.name == name)
+            return &p;
+        if (const Menuepunkt* q = suchen(p.punkte, name))
+            return q;
+    }
+    return nullptr;
+}
+
+void meldung(Sitzung& s, const char* titel, const char* text) {
+    if (s.dialoge)
+        s.dialoge->zeigen({titel, text, Symbol::ausruf, Knoepfe::ok});
+}
+
+void seiteoeffnen(Menueziel& z, int nummer) {
+    if (nummer == 35 && z.s.merkmal[20] == 12) {
+        meldung(z.s, "Teilzeit",
+                "Die Darstellung der Teilzeitbeträge ist nur bei einzelnen Monaten möglich.");
+        return;
+    }
+    z.tablett.sanduhr = true;
+    z.s.Tablettseite = static_cast<std::int16_t>(nummer);
+    z.tablett.tablettoeffnen();
+}
+
+void zeilenhilfezeigen(Menueziel& z) {
+    z.s.Tablettseite = 0;
+    const auto kontext = zeilenhilfe(z.s.personalart(), z.s.aktuellezeile);
+    if (!kontext) {
+        meldung(z.s, "HILFE",
+                "Für die in Zeile 2 eingestellten Bediensteten sind noch keine Hilfetexte "
+                "verfügbar.");
+        return;
+    }
+    if (z.hilfe)
+        z.hilfe->zeigen(*kontext);
+}
+
+} // namespace
+
+std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
+    // The 1998 entries wait until a set of 1998 has been filled.
+    const bool jahr1998 = !s.ist1997() || s.ordner.laenge("L1998I.1") >= 1;
+    return {
+        menue("MDatei", "Wie", {eintrag("MBeenden", "Beenden", Menueaktion::beenden, 0)}),
+        jahresmenue(s, 1997, jahr1998),
+        jahresmenue(s, 1998, jahr1998),
+        seite("MTeilzeit", "Tz", 35),
+        seite("MLohnsteuer", "LSt", 6),
+        seite("MSozialversicherung", "Soz", 29),
+        seite("MZusatzversicherung", "ZVK", 8),
+        menue("MTabelle", "GTab", tabellenthemen()),
+        menue("MInfo", "Info", infothemen()),
+        [] {
+            Menuepunkt p = menue(
+                "MHilfe", "?",
+                {thema("MBedienanleitung", "Bedienanleitung", 20000), thema("M§", "§", 1000)});
+            p.aktion = Menueaktion::zeilenhilfe;
+            return p;
+        }(),
+    };
+}
+
+std::optional<Menuepunkt> menuepunkt(const Sitzung& s, const std::string& name) {
+    const std::vector<Menuepunkt> leiste = hauptmenue(s);
+    if (const Menuepunkt* p = suchen(leiste, name))
+        return *p;
+    return std::nullopt;
+}
+
+std::optional<int> zeilenhilfe(int personalart, int zeile) {
+    switch (personalart) {
+    case 0:
+        return 11000 + zeile;
+    case 2:
+        return 12500 + zeile;
+    case 3:
+        return 45000 + zeile;
+    case 5:
+        return 96200 + zeile;
+    default:
+        return std::nullopt;
+    }
+}
+
+void menueklick(Menueziel& z, const std::string& name) {
+    const std::optional<Menuepunkt> p = menuepunkt(z.s, name);
+    if (!p || !p->aktiv)
+        return;
+    switch (p->aktion) {
+    case Menueaktion::seite:
+        seiteoeffnen(z, p->zahl);
+        break;
+    case Menueaktion::hilfe:
+        if (z.hilfe)
+            z.hilfe->zeigen(p->zahl);
+        break;
+    case Menueaktion::jahr:
+        jahrklick(z.s, z.form, static_cast<std::int16_t>(p->zahl));
+        break;
+    case Menueaktion::personalloeschen:
+        personalsaetzeklick(z.s, z.form, p->zahl);
+        break;
+    case Menueaktion::beenden:
+        z.beendet = true;
+        break;
+    case Menueaktion::zeilenhilfe:
+        zeilenhilfezeigen(z);
+        break;
+    case Menueaktion::keine:
+        break;
+    }
+}
+
+} // namespace lonvir

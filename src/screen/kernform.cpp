@@ -1,0 +1,49 @@
+// The main form without a window: refresh by loading the month, load and unload as the form.
+#include "screen/hauptform.h"
+
+#include "engine/monatladen.h"
+#include "start/einstellungen.h"
+#include "start/start.h"
+#include "start/texte.h"
+
+namespace lonvir {
+
+void Kernform::bildauffrischen() {
+    const std::int16_t monat = s_.merkmal[20] >= 0 && s_.merkmal[20] <= 12 ? s_.merkmal[20] : 0;
+    monatladen(s_, s_.aktuelleperson, monat);
+    // The marks of the year menus end with the refresh of the left column.
+    if (s_.Tablettseite == 48 || s_.Tablettseite == 49)
+        s_.Tablettseite = 0;
+}
+
+void Kernform::jahresanzeige() {
+    titel = std::string("LONVIR ") + (s_.ist1997() ? "1997" : std::to_string(s_.jahr)) +
+            " im öffentlichen Dienst    (ohne Gewähr)";
+}
+
+void Kernform::entladen() {
+    dimschreiben(s_);
+}
+
+void Kernform::laden() {
+    sanduhr(true);
+    s_.aenderungssperre = -1;
+    s_.anzahlnamen = personenzaehlen(s_);
+    // The person of the settings of the year, as far as the name list reaches.
+    std::int32_t person = s_.voreinstellung[15].gerundetInt32();
+    if (person > s_.anzahlnamen)
+        person = s_.anzahlnamen;
+    if (person < 1)
+        person = 1;
+    s_.aktuelleperson = static_cast<std::int16_t>(person);
+    s_.startphase = 0;
+    zeilenfarben();
+    jahresanzeige();
+    const int schicht = ortwiederherstellen(s_);
+    aktiveSchicht = schicht;
+    s_.aenderungssperre = 0;
+    bildauffrischen();
+    sanduhr(false);
+}
+
+} // namespace lonvir
