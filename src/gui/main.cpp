@@ -76,6 +76,7 @@ int main(int argc, char** argv) {
     s.dialoge = &dialoge;
     const std::filesystem::path ordner = QDir(aufruf.ordner).absolutePath().toStdString();
     s.ordner = lonvir::Arbeitsordner(ordner);
+    s.installation = LONVIR_INSTALLATION;
     if (const QScreen* bildschirm = QGuiApplication::primaryScreen()) {
         // The screen in twips, for the default window place of a new installation.
         const double tpp = 1440.0 / bildschirm->logicalDotsPerInchX();

@@ -3,6 +3,7 @@
 #include "gui/form1fenster.h"
 #include "screen/betragstext.h"
 #include "start/satzzugriff.h"
+#include "start/start.h"
 #include "testhilfe.h"
 
 #include <QApplication>
@@ -77,6 +78,62 @@ TEST(Form1Fenster, ListeUndBetragUeberDieWidgetsGebenDieNeueAuszahlungInZeile45)
     EXPECT_EQ(w.f.t(45)->text().toStdString(), zeilentext(45, vorher - 7550));
     EXPECT_EQ(personalsatzlesen(s, 1, 1).wert[45], vorher - 7550);
     EXPECT_TRUE(w.u.dialoge.gezeigt().empty());
+}
+
+// The working folder as the program's first start leaves it: seeded with the installation
+// data, the sample staff in layer INFO of 1997.
+struct Musterbestand {
+    Musterbestand() {
+        s.ordner = Arbeitsordner(t.pfad());
+        s.dialoge = &dialoge;
+        s.installation = LONVIR_INSTALLATION;
+        starten(s);
+    }
+    test::Tempordner t;
+    SkriptDialoge dialoge;
+    Sitzung s;
+};
+
+TEST(Form1Fenster, MusterpersonalListeUndBetragGebenDieNeueAuszahlung) {
+    Musterbestand m;
+    gui::Form1Fenster f(m.s, m.dialoge, nullptr);
+    f.geometrieFesthalten();
+    f.laden();
+    f.resize(1280, 800);
+    f.show();
+    QApplication::setActiveWindow(&f);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
+    // Person 2, "Schneider, Petra", picked in the name list with the keyboard.
+    QComboBox* z0 = f.z(0);
+    ASSERT_GE(z0->count(), 6);
+    EXPECT_EQ(z0->itemText(1), QStringLiteral("Schneider, Petra"));
+    z0->setFocus();
+    while (z0->currentIndex() > 1)
+        QTest::keyClick(z0, Qt::Key_Up);
+    while (z0->currentIndex() < 1)
+        QTest::keyClick(z0, Qt::Key_Down);
+    ASSERT_EQ(m.s.aktuelleperson, 2);
+    const std::int32_t vorher = m.s.wert[45];
+    EXPECT_GT(vorher, 0); // a paid employee
+    EXPECT_EQ(f.t(45)->text().toStdString(), zeilentext(45, vorher));
+
+    // Another deduction type in row 41, then 75.50 DM deducted there.
+    QComboBox* z41 = f.z(41);
+    const int position = z41->currentIndex();
+    z41->setFocus();
+    QTest::keyClick(z41, Qt::Key_Down);
+    EXPECT_EQ(m.s.merkmal[41], position + 1);
+    QLineEdit* t41 = f.t(41);
+    QTest::mouseClick(t41, Qt::LeftButton);
+    t41->selectAll();
+    QTest::keyClicks(t41, QStringLiteral("75,50"));
+    QTest::keyClick(t41, Qt::Key_Minus);
+    // Row 45 is row 22 plus rows 33 to 44: the deduction comes off the payment.
+    EXPECT_EQ(m.s.wert[45], vorher - 7550);
+    EXPECT_EQ(f.t(45)->text().toStdString(), zeilentext(45, vorher - 7550));
+    const Personalsatz gespeichert = personalsatzlesen(m.s, m.s.merkmal[20] + 1, 2);
+    EXPECT_EQ(gespeichert.wert[45], vorher - 7550);
+    EXPECT_EQ(gespeichert.merkmal[41], position + 1);
 }
 
 TEST(Form1Fenster, GrenzeDerStundenMitMeldungImFenster) {
