@@ -1,7 +1,7 @@
 // The main form's life: load, activation, the window state, the keys of the calculator, the end.
 #include "screen/form1.h"
 
-#include "start/dateisatz.h"
+#include "screen/navigation.h"
 #include "start/einstellungen.h"
 #include "start/start.h"
 
@@ -43,11 +43,19 @@ void Form1::Form_Load() {
     bild.jahr1998 = !s.ist1997() || s.ordner.laenge("L1998I.1") >= 1;
     s.startphase = 0;
     farbenanwenden();
-    bild.titel = std::string("LONVIR ") + (s.ist1997() ? "1997" : std::to_string(s.jahr)) +
-                 " im öffentlichen Dienst    (ohne Gewähr)";
+    jahresanzeige();
     ortwiederherstellen();
     s.aenderungssperre = 0;
     bild.sanduhr = false;
+}
+
+void Form1::laden() {
+    Form_Load();
+}
+
+void Form1::jahresanzeige() {
+    bild.titel = std::string("LONVIR ") + (s.ist1997() ? "1997" : std::to_string(s.jahr)) +
+                 " im öffentlichen Dienst    (ohne Gewähr)";
 }
 
 // The place where the user stopped: person, month and layer of the settings of the year.
@@ -77,12 +85,7 @@ void Form1::Form_Activate() {
 }
 
 void Form1::SSPanel_Click(int schicht) {
-    s.schicht = static_cast<std::int16_t>(schicht);
-    bild.aktiveSchicht = schicht;
-    dateienoeffnen(s);
-    dimlesen(s);
-    farbenanwenden();
-    bildauffrischen();
+    schichtklick(s, *this, static_cast<std::int16_t>(schicht));
 }
 
 void Form1::Form_Unload() {

@@ -4,6 +4,7 @@
 
 #include "core/hilfe.h"
 #include "screen/hauptbild.h"
+#include "screen/hauptform.h"
 #include "start/sitzung.h"
 
 #include <cstdint>
@@ -37,7 +38,7 @@ constexpr int rueck = 8;
 constexpr int enter = 13;
 } // namespace taste
 
-class Form1 : public Anzeige {
+class Form1 : public Anzeige, public Hauptform {
 public:
     explicit Form1(Sitzung& s, Hilfe* hilfe = nullptr, Rechnertasten* rechner = nullptr);
     ~Form1() override;
@@ -82,7 +83,7 @@ public:
 
     // --- the screen
     void sperrbild();
-    void bildauffrischen();
+    void bildauffrischen() override;
     void zeilemalen(int zeile) override;
     void allezeilen();
     void schaltermalen();
@@ -135,6 +136,14 @@ public:
     // --- Anzeige
     void tablettauffrischen() override {}
     void mauszeigerNormal() override { bild.sanduhr = false; }
+
+    // --- Hauptform: what the changes of person, month, layer and year ask of the form
+    void schichtanzeigen(int schicht) override { bild.aktiveSchicht = schicht; }
+    void zeilenfarben() override { farbenanwenden(); }
+    void jahresanzeige() override;
+    void sanduhr(bool an) override { bild.sanduhr = an; }
+    void entladen() override { Form_Unload(); }
+    void laden() override;
 
 private:
     void listesetzen(int zeile, std::vector<std::string> eintraege);

@@ -1,5 +1,6 @@
 // The main form's load, activation, window state, calculator keys and end.
 #include "bildhilfe.h"
+#include "screen/navigation.h"
 #include "start/dateisatz.h"
 #include "start/einstellungen.h"
 #include "start/satzzugriff.h"
@@ -167,6 +168,21 @@ TEST(Form1, BildanpassenEndetImmerBeiNull) {
     a = f.bildanpassen(Fensterzustand::maximiert);
     EXPECT_EQ(a.neuerzustand, Fensterzustand::normal);
     EXPECT_EQ(f.fensterstufe, 0);
+}
+
+TEST(Form1, SchichtUndJahrWechselnUeberDieNavigation) {
+    test::Umgebung u;
+    Form1 f(u.s);
+    f.Form_Load();
+    f.SSPanel_Click(PLAN);
+    EXPECT_EQ(u.s.schicht, PLAN);
+    EXPECT_EQ(f.bild.aktiveSchicht, 1);
+    EXPECT_EQ(f.bild.zeilen[0].liste.size(), 20u);
+    jahrklick(u.s, f, 1998);
+    EXPECT_EQ(u.s.jahr, 1998);
+    EXPECT_EQ(f.bild.titel, "LONVIR 1998 im öffentlichen Dienst    (ohne Gewähr)");
+    EXPECT_FALSE(f.bild.sanduhr);
+    EXPECT_EQ(u.s.Tablettseite, 0); // the mark of the year menu ends with the refresh
 }
 
 TEST(Form1, HilfekontextNachPersonalartUndZeile) {
