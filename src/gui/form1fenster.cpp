@@ -417,11 +417,11 @@ void Form1Fenster::kopfDarstellen() {
 void Form1Fenster::fokusUebergeben() {
     Fokus& wunsch = modell_.bild.fokuswunsch;
     QWidget* ziel = nullptr;
-    if (wunsch.art == Fokusart::liste)
+    if (wunsch.art == Fokusziel::liste)
         ziel = z(wunsch.zeile);
-    else if (wunsch.art == Fokusart::wertfeld)
+    else if (wunsch.art == Fokusziel::wertfeld)
         ziel = t(wunsch.zeile);
-    else if (wunsch.art == Fokusart::bdabeginn)
+    else if (wunsch.art == Fokusziel::bdabeginn)
         ziel = bdaBeginn_;
     wunsch = {};
     if (ziel)

@@ -3,6 +3,7 @@
 #include "core/cp1252.h"
 #include "engine/schritte.h"
 #include "screen/form1.h"
+#include "screen/hauptmenue.h"
 #include "screen/stufenliste.h"
 #include "start/texte.h"
 
@@ -170,7 +171,7 @@ void Form1::z_Click(int zeile) {
 }
 
 void Form1::z_DblClick(int zeile) {
-    const std::optional<int> kontext = hilfekontext(s.personalart(), zeile);
+    const std::optional<int> kontext = zeilenhilfe(s.personalart(), zeile);
     if (!kontext) {
         if (s.dialoge)
             s.dialoge->zeigen({"HILFE",

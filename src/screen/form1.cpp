@@ -150,20 +150,4 @@ int Form1::Form_KeyPress(int key, bool zeilehatfokus) {
     return 0;
 }
 
-std::optional<int> hilfekontext(int personalart, int zeile) {
-    // The help file has row topics for Besoldungsordnung A, C and R and for BAT.
-    switch (personalart) {
-    case 0:
-        return 11000 + zeile;
-    case 2:
-        return 12500 + zeile;
-    case 3:
-        return 45000 + zeile;
-    case 5:
-        return 96200 + zeile;
-    default:
-        return std::nullopt;
-    }
-}
-
 } // namespace lonvir

@@ -163,9 +163,6 @@ private:
     Anzeige* vorherigeAnzeige_;
 };
 
-// The help context of a row by staff class; none for a staff class without help texts.
-[[nodiscard]] std::optional<int> hilfekontext(int personalart, int zeile);
-
 // The amount of a row box's text: a number in DM with a decimal comma, "." ignored, up to the
 // first other character; in Pfennig, rounded (ties to even).
 [[nodiscard]] std::int32_t betragauslesen(const std::string& text);

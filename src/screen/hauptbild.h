@@ -34,10 +34,10 @@ struct Schalterspalte {
     Feld<bool, 7, 19> gesetzt;
 };
 
-enum class Fokusart { keiner, liste, wertfeld, bdabeginn };
+enum class Fokusziel { keiner, liste, wertfeld, bdabeginn };
 
 struct Fokus {
-    Fokusart art = Fokusart::keiner;
+    Fokusziel art = Fokusziel::keiner;
     int zeile = 0;
     bool operator==(const Fokus&) const = default;
 };

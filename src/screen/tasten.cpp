@@ -180,7 +180,7 @@ void Form1::neuberechnen(int zeile) {
 
 void Form1::naechsterfocus() {
     z_Click(22);
-    bild.fokuswunsch = {Fokusart::liste, 22};
+    bild.fokuswunsch = {Fokusziel::liste, 22};
 }
 
 void Form1::t_Click(int zeile) {
@@ -223,12 +223,12 @@ void Form1::betragtippen(int zeile, std::int32_t pfennig) {
     t_GotFocus(zeile);
     Bildzeile& z = bild.zeilen[static_cast<std::size_t>(zeile)];
     z.wert.clear();
-    bild.fokuswunsch = {Fokusart::wertfeld, zeile};
+    bild.fokuswunsch = {Fokusziel::wertfeld, zeile};
     for (char c : betragseingabe(pfennig)) {
         if (t_KeyPress(zeile, c) != 0)
             z.wert += c;
         // A reset of the box moves the focus away: the rest of the keys go elsewhere.
-        if (!(bild.fokuswunsch == Fokus{Fokusart::wertfeld, zeile}))
+        if (!(bild.fokuswunsch == Fokus{Fokusziel::wertfeld, zeile}))
             return;
     }
     t_KeyPress(zeile, pfennig < 0 ? '-' : taste::enter);

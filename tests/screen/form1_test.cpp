@@ -185,15 +185,6 @@ TEST(Form1, SchichtUndJahrWechselnUeberDieNavigation) {
     EXPECT_EQ(u.s.Tablettseite, 0); // the mark of the year menu ends with the refresh
 }
 
-TEST(Form1, HilfekontextNachPersonalartUndZeile) {
-    EXPECT_EQ(hilfekontext(0, 7), 11007);
-    EXPECT_EQ(hilfekontext(2, 0), 12500);
-    EXPECT_EQ(hilfekontext(3, 45), 45045);
-    EXPECT_EQ(hilfekontext(5, 33), 96233);
-    EXPECT_FALSE(hilfekontext(1, 7));
-    EXPECT_FALSE(hilfekontext(18, 7));
-}
-
 TEST(Form1, EingabenOhneFensterGehenDurchDieHandler) {
     test::Umgebung u;
     Form1 f(u.s);

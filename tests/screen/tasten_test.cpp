@@ -70,7 +70,7 @@ TEST(Tasten, AchtZeichenSetzenDasFeldZurueck) {
     EXPECT_EQ(b.u.s.wert[12], 0);
     EXPECT_EQ(b.u.s.eingabe[12], 0);
     EXPECT_EQ(b.zeile(12).wert, "0,00±");
-    EXPECT_EQ(b.f.bild.fokuswunsch, (Fokus{Fokusart::liste, 22}));
+    EXPECT_EQ(b.f.bild.fokuswunsch, (Fokus{Fokusziel::liste, 22}));
     // The focus moved on with a click on row 22: the month is stored without the amount.
     EXPECT_EQ(personalsatzlesen(b.u.s, 1, 1).wert[12], 0);
 }
