@@ -2,6 +2,8 @@
 // the tariff file of the folder.
 #include "testhilfe.h"
 
+#include "cli/clilauf.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -15,14 +17,9 @@ namespace lonvir {
 namespace {
 
 std::string cli(const std::string& argumente) {
-    const std::string befehl = std::string(LONVIR_CLI) + " " + argumente + " 2>&1";
-    FILE* rohr = ::popen(befehl.c_str(), "r");
-    std::string aus;
-    std::array<char, 4096> puffer{};
-    while (std::size_t n = std::fread(puffer.data(), 1, puffer.size(), rohr))
-        aus.append(puffer.data(), n);
-    EXPECT_EQ(WEXITSTATUS(::pclose(rohr)), 0) << argumente << "\n" << aus;
-    return aus;
+    const test::Clilauf l = test::clilauf(argumente, true);
+    EXPECT_EQ(l.status, 0) << argumente << "\n" << l.aus;
+    return l.aus;
 }
 
 // Record 1 of Lonvir97.1tr (Besoldungsordnung A, group 0, West): steps 150000 plus 10000 per

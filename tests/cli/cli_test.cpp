@@ -1,4 +1,5 @@
 // lonvir97-cli end to end: the built program on a temporary folder, checked on disk.
+#include "cli/clilauf.h"
 #include "testhilfe.h"
 
 #include <gtest/gtest.h>
@@ -12,22 +13,8 @@ namespace lonvir {
 
 namespace {
 
-struct Lauf {
-    int status;
-    std::string aus;
-};
-
-// Runs the CLI with the given arguments; stderr goes into the output too when asked.
-Lauf cli(const std::string& argumente, bool mitFehlern = false) {
-    const std::string befehl =
-        std::string(LONVIR_CLI) + " " + argumente + (mitFehlern ? " 2>&1" : " 2>/dev/null");
-    FILE* rohr = ::popen(befehl.c_str(), "r");
-    std::string aus;
-    std::array<char, 4096> puffer{};
-    while (std::size_t n = std::fread(puffer.data(), 1, puffer.size(), rohr))
-        aus.append(puffer.data(), n);
-    const int status = ::pclose(rohr);
-    return {WEXITSTATUS(status), aus};
+test::Clilauf cli(const std::string& argumente, bool mitFehlern = false) {
+    return test::clilauf(argumente, mitFehlern);
 }
 
 std::uint32_t le32(const std::string& b, std::size_t ab) {
@@ -42,18 +29,19 @@ TEST(Cli, AnlegenSetzenZeigenSatzUndDieBytesAufDerPlatte) {
     test::Tempordner t;
     const std::string ordner = "--ordner " + t.pfad().string();
 
-    Lauf a = cli("anlegen --leer " + ordner);
+    test::Clilauf a = cli("anlegen --leer " + ordner);
     ASSERT_EQ(a.status, 0);
     EXPECT_NE(a.aus.find("20 Personen"), std::string::npos);
 
     // 123.45 DM typed in row 12 for person 3 in March.
-    Lauf s = cli("setzen " + ordner + " --person 3 --monat 3 --zeile 12 --betrag 12345 --json");
+    test::Clilauf s =
+        cli("setzen " + ordner + " --person 3 --monat 3 --zeile 12 --betrag 12345 --json");
     ASSERT_EQ(s.status, 0);
     EXPECT_NE(s.aus.find("\"wert\":[3850,3850,3000,3000,0,0,0,0,0,0,0,0,12345,"), std::string::npos)
         << s.aus;
     EXPECT_NE(s.aus.find("\"123,45+\""), std::string::npos);
 
-    Lauf z = cli("zeigen " + ordner + " --person 3 --monat 7 --json");
+    test::Clilauf z = cli("zeigen " + ordner + " --person 3 --monat 7 --json");
     ASSERT_EQ(z.status, 0);
     EXPECT_NE(z.aus.find("\"monat\":7"), std::string::npos);
     EXPECT_NE(z.aus.find("\"wert\":[3850,3850,3000,3000,0,0,0,0,0,0,0,0,12345,"),
@@ -61,7 +49,7 @@ TEST(Cli, AnlegenSetzenZeigenSatzUndDieBytesAufDerPlatte) {
     EXPECT_NE(z.aus.find("\"lstwert\":["), std::string::npos);
     EXPECT_NE(z.aus.find("\"meldungen\":[]"), std::string::npos);
 
-    Lauf r = cli("satz " + ordner + " --datei L1997I.4 --nummer 3");
+    test::Clilauf r = cli("satz " + ordner + " --datei L1997I.4 --nummer 3");
     ASSERT_EQ(r.status, 0);
     EXPECT_NE(r.aus.find("\"satzart\":\"Personalsatz\""), std::string::npos);
     EXPECT_NE(r.aus.find("\"merkmal\":[0,0,0,0,0,0,0,0,0,0,0,0,19,6,0,0,0,0,0,3,"),
@@ -84,7 +72,8 @@ TEST(Cli, AnlegenSetzenZeigenSatzUndDieBytesAufDerPlatte) {
 TEST(Cli, JahressichtVerweigertEingabenMitMeldung) {
     test::Tempordner t;
     const std::string ordner = "--ordner " + t.pfad().string();
-    Lauf s = cli("setzen " + ordner + " --person 1 --monat 13 --zeile 12 --betrag 5 --json", true);
+    test::Clilauf s =
+        cli("setzen " + ordner + " --person 1 --monat 13 --zeile 12 --betrag 5 --json", true);
     EXPECT_EQ(s.status, 0);
     EXPECT_NE(s.aus.find("Keine Änderung möglich: Während das JAHRESGEHALT"), std::string::npos);
     EXPECT_NE(s.aus.find("\"meldungen\":[{\"titel\":\"Keine Änderung möglich\""),
@@ -99,19 +88,19 @@ TEST(Cli, FalscherAufrufGibtStatus2) {
     EXPECT_EQ(cli("zeigen " + ordner + " --person 1 --monat 14").status, 2);
     EXPECT_EQ(cli("zeigen " + ordner + " --person 1 --monat 1 --schicht XYZ").status, 2);
     EXPECT_EQ(cli("gibtsnicht " + ordner).status, 2);
-    Lauf l = cli("setzen " + ordner + " --person 1 --monat 1", true);
+    test::Clilauf l = cli("setzen " + ordner + " --person 1 --monat 1", true);
     EXPECT_EQ(l.status, 2);
     EXPECT_NE(l.aus.find("setzen braucht genau eine Eingabe"), std::string::npos);
 }
 
 TEST(Cli, HilfeZeigtDenAufruf) {
-    Lauf l = cli("--help");
+    test::Clilauf l = cli("--help");
     EXPECT_EQ(l.status, 0);
     EXPECT_NE(l.aus.find("Aufruf: lonvir97-cli BEFEHL"), std::string::npos);
 }
 
 TEST(Cli, NichtBeschreibbarerOrdnerGibtStatus4) {
-    Lauf l = cli("anlegen --ordner /proc/lonvir97", true);
+    test::Clilauf l = cli("anlegen --ordner /proc/lonvir97", true);
     EXPECT_EQ(l.status, 4);
     EXPECT_NE(l.aus.find("/proc/lonvir97"), std::string::npos);
 }

@@ -26,4 +26,8 @@ inline Clilauf clilauf(const std::string& argumente, bool mitFehlern = false) {
     return {WEXITSTATUS(status), aus};
 }
 
+inline bool enthaelt(const std::string& text, const std::string& teil) {
+    return text.find(teil) != std::string::npos;
+}
+
 } // namespace lonvir::test

@@ -2,6 +2,8 @@
 // full and agree with the rows they lead to.
 #include "testhilfe.h"
 
+#include "cli/clilauf.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -15,14 +17,7 @@ namespace lonvir {
 namespace {
 
 std::string cli(const std::string& argumente) {
-    const std::string befehl = std::string(LONVIR_CLI) + " " + argumente + " 2>/dev/null";
-    FILE* rohr = ::popen(befehl.c_str(), "r");
-    std::string aus;
-    std::array<char, 4096> puffer{};
-    while (std::size_t n = std::fread(puffer.data(), 1, puffer.size(), rohr))
-        aus.append(puffer.data(), n);
-    ::pclose(rohr);
-    return aus;
+    return test::clilauf(argumente).aus;
 }
 
 // The numbers of the array "name":[...] of a flat JSON object.

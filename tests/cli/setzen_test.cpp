@@ -2,6 +2,8 @@
 // questions, and what the window would not let a user do is refused with nothing stored.
 #include "testhilfe.h"
 
+#include "cli/clilauf.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -13,24 +15,10 @@ namespace lonvir {
 
 namespace {
 
-struct Lauf {
-    int status;
-    std::string aus; // stdout and stderr together
-};
+using test::enthaelt;
 
-Lauf cli(const std::string& argumente) {
-    const std::string befehl = std::string(LONVIR_CLI) + " " + argumente + " 2>&1";
-    FILE* rohr = ::popen(befehl.c_str(), "r");
-    std::string aus;
-    std::array<char, 4096> puffer{};
-    while (std::size_t n = std::fread(puffer.data(), 1, puffer.size(), rohr))
-        aus.append(puffer.data(), n);
-    const int status = ::pclose(rohr);
-    return {WEXITSTATUS(status), aus};
-}
-
-bool enthaelt(const std::string& text, const std::string& teil) {
-    return text.find(teil) != std::string::npos;
+test::Clilauf cli(const std::string& argumente) {
+    return test::clilauf(argumente, true);
 }
 
 struct Ordner {
@@ -44,7 +32,7 @@ struct Ordner {
 
 TEST(Setzen, StundenUeber80WerdenMitMeldungGekappt) {
     Ordner d;
-    const Lauf l = cli("setzen " + d.o + " --person 2 --monat 1 --zeile 0 --betrag 8001");
+    const test::Clilauf l = cli("setzen " + d.o + " --person 2 --monat 1 --zeile 0 --betrag 8001");
     EXPECT_EQ(l.status, 0);
     EXPECT_TRUE(enthaelt(l.aus, "Korrektur: Der Wert mußte auf 80 herabgesetzt werden")) << l.aus;
     EXPECT_TRUE(enthaelt(l.aus, "\n 0    1         8000  80\n")) << l.aus;
@@ -53,7 +41,7 @@ TEST(Setzen, StundenUeber80WerdenMitMeldungGekappt) {
 TEST(Setzen, GesperrtesFeldUndZuLangerBetragSpeichernNichts) {
     Ordner d;
     // A civil servant's health-insurance box is locked.
-    Lauf l = cli("setzen " + d.o + " --person 1 --monat 1 --zeile 37 --betrag 100");
+    test::Clilauf l = cli("setzen " + d.o + " --person 1 --monat 1 --zeile 37 --betrag 100");
     EXPECT_EQ(l.status, 2);
     EXPECT_TRUE(
         enthaelt(l.aus, "Das Betragsfeld der Zeile 37 ist für diese Personalart gesperrt."));
@@ -75,7 +63,7 @@ TEST(Setzen, GesperrtesFeldUndZuLangerBetragSpeichernNichts) {
 TEST(Setzen, StufeVonHandFragtUndDieAntwortEntscheidet) {
     Ordner d;
     // Besoldungsordnung A with the service age from 01.1997: the step is computed.
-    Lauf l = cli("setzen " + d.o + " --person 1 --monat 12 --zeile 7 --auswahl 3 --nein");
+    test::Clilauf l = cli("setzen " + d.o + " --person 1 --monat 12 --zeile 7 --auswahl 3 --nein");
     EXPECT_EQ(l.status, 0);
     EXPECT_TRUE(enthaelt(l.aus, "BDA: Das Programm hat die Dienstaltersstufe")) << l.aus;
     EXPECT_TRUE(enthaelt(l.aus, "\n 7    0 ")) << l.aus;
@@ -87,7 +75,7 @@ TEST(Setzen, StufeVonHandFragtUndDieAntwortEntscheidet) {
 
 TEST(Setzen, NameUndBdaUeberDieHandler) {
     Ordner d;
-    Lauf l = cli("setzen " + d.o + " --person 4 --monat 6 --bda 07.1990 --json");
+    test::Clilauf l = cli("setzen " + d.o + " --person 4 --monat 6 --bda 07.1990 --json");
     EXPECT_EQ(l.status, 0);
     // June 1997: (97 - 90) * 12 - 7 + 6 = 83 months, step 83 / 24 = 3.
     EXPECT_TRUE(enthaelt(l.aus, "\"merkmal\":[3,0,0,0,0,0,0,3,")) << l.aus;
