@@ -31,7 +31,7 @@ void jahreswerteseite(Tablett& t) {
     t.Command3.text = "Hilfe";
     t.Command3.lage = {seitenlage::links + 1700, fuss, 1100, 400};
     t.Command3.sichtbar = true;
-    t.fokus = {Fokusart::text, 0};
+    t.fokus = {Tablettfokusart::text, 0};
 }
 
 void jahreswertespeichern(Tablett& t) {

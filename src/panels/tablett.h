@@ -109,9 +109,9 @@ struct Form1lage {
 };
 
 // Where a builder leaves the focus.
-enum class Fokusart { keiner, text, combo, knopf };
+enum class Tablettfokusart { keiner, text, combo, knopf };
 struct Tablettfokus {
-    Fokusart art = Fokusart::keiner;
+    Tablettfokusart art = Tablettfokusart::keiner;
     int index = 0;
     bool operator==(const Tablettfokus&) const = default;
 };

@@ -98,11 +98,11 @@ void Tablett::Command3_Click() {
 
 void Tablett::combo_GotFocus(int index) {
     Comboaktiv = 1;
-    fokus = {Fokusart::combo, index};
+    fokus = {Tablettfokusart::combo, index};
 }
 
 void Tablett::text_GotFocus(int index) {
-    fokus = {Fokusart::text, index};
+    fokus = {Tablettfokusart::text, index};
 }
 
 void Tablett::zeile_Click(int) {

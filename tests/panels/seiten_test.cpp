@@ -241,7 +241,7 @@ TEST(Seiten, BemerkungskarteZeigtUndSpeichertDieSechzehnFelder) {
     EXPECT_EQ(t.Text[1].lage.oben, 710);
     EXPECT_EQ(t.Command1.text, "Speichern");
     EXPECT_TRUE(t.Command1.sichtbar);
-    EXPECT_EQ(t.fokus, (Tablettfokus{Fokusart::text, 0}));
+    EXPECT_EQ(t.fokus, (Tablettfokus{Tablettfokusart::text, 0}));
 
     // 41 characters into a 40-character field are stored cut after 40.
     t.Text[3].text = std::string(40, 'x') + "y";

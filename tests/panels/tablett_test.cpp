@@ -286,7 +286,7 @@ TEST(Tablett, ComboFokusMerktSichDieEigeneAenderung) {
     Tablett t(u.s, f);
     t.combo_GotFocus(3);
     EXPECT_EQ(t.Comboaktiv, 1);
-    EXPECT_EQ(t.fokus, (Tablettfokus{Fokusart::combo, 3}));
+    EXPECT_EQ(t.fokus, (Tablettfokus{Tablettfokusart::combo, 3}));
 }
 
 TEST(Tablett, AngemeldeteSeiteWirdGebaut) {
