@@ -1,8 +1,10 @@
 // lonvir97: the start form, the session on the working folder, the main form Form1.
 #include "core/laufzeitfehler.h"
 #include "gui/form1fenster.h"
+#include "gui/hilfefenster.h"
 #include "gui/qtdialoge.h"
 #include "gui/startform.h"
+#include "gui/tablettanbindung.h"
 #include "start/start.h"
 
 #include <QApplication>
@@ -21,6 +23,7 @@ struct Aufruf {
     QString ordner;
     QString bildschirmfoto; // file of a picture of the window, then the program ends
     QSize groesse;          // window size for the picture
+    int seite = 0;          // a page of the panel opened for the picture
 };
 
 Aufruf aufrufLesen(const QApplication& app) {
@@ -35,7 +38,10 @@ Aufruf aufrufLesen(const QApplication& app) {
     const QCommandLineOption groesse(QStringLiteral("groesse"),
                                      QStringLiteral("Fenstergröße für das Bild, BREITExHÖHE"),
                                      QStringLiteral("BxH"));
-    p.addOptions({ordner, foto, groesse});
+    const QCommandLineOption seite(QStringLiteral("seite"),
+                                   QStringLiteral("Seite des Tabletts für das Bild"),
+                                   QStringLiteral("N"));
+    p.addOptions({ordner, foto, groesse, seite});
     p.process(app);
     Aufruf a;
     a.ordner = p.isSet(ordner) ? p.value(ordner)
@@ -44,16 +50,20 @@ Aufruf aufrufLesen(const QApplication& app) {
     const QStringList teile = p.value(groesse).split(QLatin1Char('x'));
     if (teile.size() == 2)
         a.groesse = QSize(teile[0].toInt(), teile[1].toInt());
+    a.seite = p.value(seite).toInt();
     return a;
 }
 
-void fotografieren(lonvir::gui::Form1Fenster& fenster, const Aufruf& a) {
+void fotografieren(lonvir::gui::Form1Fenster& fenster, lonvir::gui::Tablettanbindung& tablett,
+                   const Aufruf& a) {
     fenster.geometrieFesthalten();
     if (a.groesse.isValid())
         fenster.resize(a.groesse);
-    QTimer::singleShot(500, &fenster, [&fenster, a] {
+    QTimer::singleShot(500, &fenster, [&fenster, &tablett, a] {
         fenster.bildausrechnen(true);
         fenster.darstellen();
+        if (a.seite > 0)
+            tablett.seiteoeffnen(a.seite);
         const bool gespeichert = fenster.grab().save(a.bildschirmfoto);
         QApplication::exit(gespeichert ? 0 : 4);
     });
@@ -66,7 +76,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("lonvir97"));
     const Aufruf aufruf = aufrufLesen(app);
 
-    lonvir::gui::QtHilfe hilfe(aufruf.ordner);
+    lonvir::gui::HilfeFenster hilfe(aufruf.ordner);
     lonvir::gui::Startform start(&hilfe);
     start.zeigenMittig();
     QApplication::processEvents();
@@ -97,11 +107,13 @@ int main(int argc, char** argv) {
         }
         lonvir::gui::Form1Fenster fenster(s, dialoge, &hilfe);
         dialoge.elternSetzen(&fenster);
+        lonvir::gui::Tablettanbindung tablett(fenster, s, &hilfe);
         fenster.laden();
+        tablett.menueaufbauen();
         start.close();
         fenster.show();
         if (!aufruf.bildschirmfoto.isEmpty())
-            fotografieren(fenster, aufruf);
+            fotografieren(fenster, tablett, aufruf);
         return app.exec();
     } catch (const std::exception& fehler) {
         QMessageBox::critical(nullptr, QStringLiteral("Lonvir 97"),

@@ -1,0 +1,180 @@
+// Wiring of the panel and the menu to the window Form1.
+#include "gui/tablettanbindung.h"
+
+#include "screen/uebertragung.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+
+#include <cmath>
+#include <cstdlib>
+
+namespace lonvir::gui {
+
+namespace {
+QString qtext(const std::string& utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+} // namespace
+
+Tablettanbindung::Tablettanbindung(Form1Fenster& fenster, Sitzung& s, Hilfe* hilfe)
+    : f_(fenster), s_(s), t_(s, lage_, hilfe),
+      hauptform_(fenster.modell()), ziel_{s, hauptform_, t_, hilfe} {
+    // The rows' text z(row) comes from the main screen's lists.
+    t_.zeilenname = [this](int zeile) {
+        const Bildzeile& z = f_.modell().bild.zeilen[static_cast<std::size_t>(zeile)];
+        if (z.position >= 0 && static_cast<std::size_t>(z.position) < z.liste.size())
+            return z.liste[static_cast<std::size_t>(z.position)];
+        return zeilenbezeichnung(s_, zeile);
+    };
+    s_.anzeige = this;
+    ansicht_ = new TablettFenster(
+        t_, [this](const std::function<void()>& h) { ausfuehren(h); }, f_.centralWidget());
+    connect(&f_, &Form1Fenster::uebertragGeklickt, this, [this](int von, int nach) {
+        // No recalculation and no refresh: the screen shows the old data.
+        ausfuehren([&] {
+            uebertragen(s_, static_cast<std::int16_t>(von), static_cast<std::int16_t>(nach));
+        });
+    });
+    connect(&f_, &Form1Fenster::bemerkungGeklickt, this, [this] { seiteoeffnen(23); });
+}
+
+Tablettanbindung::~Tablettanbindung() {
+    if (s_.anzeige == this)
+        s_.anzeige = &f_.modell();
+}
+
+double Tablettanbindung::twipsJePixel() const {
+    const QScreen* bildschirm = f_.screen();
+    const double dpi = bildschirm ? bildschirm->logicalDotsPerInchX() : 96.0;
+    return 1440.0 / (dpi > 0 ? dpi : 96.0);
+}
+
+// The form in twips, relative to its client area. The window's head is not 640 twips high:
+// its top is taken so that the panel starts where the result column does.
+void Tablettanbindung::formlageholen() {
+    const double tpp = twipsJePixel();
+    const auto twips = [tpp](int px) { return static_cast<int>(std::lround(px * tpp)); };
+    QWidget* mitte = f_.centralWidget();
+    const QWidget* p1 = mitte->findChild<QWidget*>(QStringLiteral("Panel3D1"));
+    const QWidget* p2 = mitte->findChild<QWidget*>(QStringLiteral("Panel3D2"));
+    lage_.links = 0;
+    lage_.breite = twips(mitte->width());
+    lage_.oben = twips(p2->y()) - 640;
+    lage_.panel3d1breite = twips(p1->width());
+    lage_.panel3d2breite = twips(p2->width());
+    lage_.panel3d2hoehe = twips(p2->height());
+    const auto zeilenoben = [&](int zeile) {
+        return twips(f_.z(zeile)->mapTo(mitte, QPoint(0, 0)).y()) - lage_.oben - 640;
+    };
+    lage_.zeile4oben = zeilenoben(4);
+    lage_.zeile5oben = zeilenoben(5);
+    lage_.zeile19oben = zeilenoben(19);
+}
+
+void Tablettanbindung::darstellen() {
+    const double tpp = twipsJePixel();
+    const auto px = [tpp](int twips) { return static_cast<int>(std::lround(twips / tpp)); };
+    ansicht_->darstellen(tpp);
+    ansicht_->setGeometry(px(t_.lage.links), px(t_.lage.oben), std::max(1, px(t_.lage.breite)),
+                          std::max(1, px(t_.lage.hoehe)));
+    ansicht_->setVisible(t_.sichtbar);
+    if (t_.sichtbar)
+        ansicht_->raise();
+    if (QWidget* p2 = f_.centralWidget()->findChild<QWidget*>(QStringLiteral("Panel3D2")))
+        p2->setVisible(lage_.panel3d2sichtbar);
+    if (t_.formwunsch) {
+        // The wage-tax table viewer comes with its own window; until then nothing opens.
+        t_.formwunsch.reset();
+    }
+}
+
+void Tablettanbindung::ausfuehren(const std::function<void()>& handler) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    try {
+        formlageholen();
+        handler();
+    } catch (const std::exception& fehler) {
+        QApplication::restoreOverrideCursor();
+        QMessageBox::critical(&f_, QStringLiteral("Lonvir 97"), QString::fromUtf8(fehler.what()));
+        std::exit(3);
+    }
+    QApplication::restoreOverrideCursor();
+    f_.darstellen();
+    darstellen();
+}
+
+void Tablettanbindung::seiteoeffnen(int seite) {
+    ausfuehren([&] {
+        s_.Tablettseite = static_cast<std::int16_t>(seite);
+        t_.tablettoeffnen();
+    });
+}
+
+void Tablettanbindung::tablettauffrischen() {
+    t_.auffrischen();
+    // A run from the main screen's own handlers: the panel follows once they are done.
+    if (!neuzeichnen_) {
+        neuzeichnen_ = true;
+        QTimer::singleShot(0, this, [this] {
+            neuzeichnen_ = false;
+            darstellen();
+        });
+    }
+}
+
+void Tablettanbindung::menueklick(const std::string& name) {
+    const std::optional<Menuepunkt> p = menuepunkt(s_, name);
+    ausfuehren([&] { lonvir::menueklick(ziel_, name); });
+    if (ziel_.beendet)
+        QApplication::exit(0);
+    // A change of year may check and enable other entries: the bar is built again once
+    // this click is over.
+    if (p && (p->aktion == Menueaktion::jahr || p->aktion == Menueaktion::personalloeschen))
+        QTimer::singleShot(0, this, [this] { menueaufbauen(); });
+}
+
+void Tablettanbindung::menueaufbauen() {
+    QMenuBar* leiste = f_.menuBar();
+    // MBeenden stays the window's own entry, owned by the menu that the window built.
+    QAction* beenden = leiste->findChild<QAction*>(QStringLiteral("MBeenden"));
+    const QObject* eigner = beenden ? beenden->parent() : nullptr;
+    for (QAction* a : leiste->actions()) {
+        if (QMenu* m = a->menu()) {
+            if (m != eigner)
+                m->deleteLater();
+        } else if (a->parent() == leiste) {
+            a->deleteLater();
+        }
+    }
+    leiste->clear();
+    const auto eintragen = [this](QWidget* ziel, const Menuepunkt& p, QAction* vorhanden) {
+        QAction* a = vorhanden ? vorhanden : new QAction(qtext(p.text), ziel);
+        a->setObjectName(qtext(p.name));
+        a->setEnabled(p.aktiv);
+        a->setCheckable(p.aktion == Menueaktion::jahr);
+        a->setChecked(p.markiert);
+        ziel->addAction(a);
+        if (!vorhanden)
+            connect(a, &QAction::triggered, this, [this, name = p.name] { menueklick(name); });
+    };
+    for (const Menuepunkt& p : hauptmenue(s_)) {
+        if (p.punkte.empty()) {
+            eintragen(leiste, p, nullptr);
+            continue;
+        }
+        QMenu* menue = leiste->addMenu(qtext(p.text));
+        menue->setObjectName(qtext(p.name));
+        menue->menuAction()->setEnabled(p.aktiv);
+        if (p.aktion == Menueaktion::zeilenhilfe)
+            connect(menue, &QMenu::aboutToShow, this, [this, name = p.name] { menueklick(name); });
+        for (const Menuepunkt& q : p.punkte)
+            eintragen(menue, q, q.name == "MBeenden" ? beenden : nullptr);
+    }
+}
+
+} // namespace lonvir::gui
