@@ -22,8 +22,7 @@ QString qtext(const std::string& utf8) {
 } // namespace
 
 Tablettanbindung::Tablettanbindung(Form1Fenster& fenster, Sitzung& s, Hilfe* hilfe)
-    : f_(fenster), s_(s), t_(s, lage_, hilfe),
-      hauptform_(fenster.modell()), ziel_{s, hauptform_, t_, hilfe} {
+    : f_(fenster), s_(s), t_(s, lage_, hilfe), ziel_{s, fenster.modell(), t_, hilfe} {
     // The rows' text z(row) comes from the main screen's lists.
     t_.zeilenname = [this](int zeile) {
         const Bildzeile& z = f_.modell().bild.zeilen[static_cast<std::size_t>(zeile)];

@@ -6,7 +6,6 @@
 #include "gui/form1fenster.h"
 #include "gui/tablettfenster.h"
 #include "panels/tablett.h"
-#include "screen/form1hauptform.h"
 #include "screen/hauptmenue.h"
 
 #include <QObject>
@@ -46,7 +45,6 @@ private:
     Sitzung& s_;
     Form1lage lage_;
     Tablett t_;
-    Form1hauptform hauptform_;
     Menueziel ziel_;
     TablettFenster* ansicht_ = nullptr;
     bool neuzeichnen_ = false;

@@ -1,6 +1,5 @@
 // The navigation on the main-screen model: layer, year, transfer and delete through Form1.
 #include "bildhilfe.h"
-#include "screen/form1hauptform.h"
 #include "screen/navigation.h"
 #include "screen/personalloeschen.h"
 #include "screen/uebertragung.h"
@@ -13,9 +12,9 @@
 
 namespace lonvir {
 
-TEST(Form1hauptform, SchichtwechselZeigtDieSchichtAlsAktivUndDieZeilenIhrerDaten) {
+TEST(Form1Navigation, SchichtwechselZeigtDieSchichtAlsAktivUndDieZeilenIhrerDaten) {
     test::Bild b;
-    Form1hauptform form(b.f);
+    Hauptform& form = b.f;
     b.u.s.schicht = PLAN;
     dateienoeffnen(b.u.s);
     Personalsatz p = personalsatzlesen(b.u.s, 1, 1);
@@ -30,7 +29,7 @@ TEST(Form1hauptform, SchichtwechselZeigtDieSchichtAlsAktivUndDieZeilenIhrerDaten
     EXPECT_EQ(b.zeile(12).wert, "123,45+");
 }
 
-TEST(Form1hauptform, UebertragungLaesstDasBildStehen) {
+TEST(Form1Navigation, UebertragungLaesstDasBildStehen) {
     test::Bild b;
     b.u.s.schicht = PLAN;
     dateienoeffnen(b.u.s);
@@ -49,9 +48,9 @@ TEST(Form1hauptform, UebertragungLaesstDasBildStehen) {
     EXPECT_EQ(b.zeile(12).wert, "500,00+");
 }
 
-TEST(Form1hauptform, JahreswechselLaedtDasHauptbildNeu) {
+TEST(Form1Navigation, JahreswechselLaedtDasHauptbildNeu) {
     test::Bild b;
-    Form1hauptform form(b.f);
+    Hauptform& form = b.f;
     Sitzung s98;
     s98.ordner = b.u.s.ordner;
     s98.jahr = 1998;
@@ -63,9 +62,9 @@ TEST(Form1hauptform, JahreswechselLaedtDasHauptbildNeu) {
     EXPECT_FALSE(b.f.bild.sanduhr);
 }
 
-TEST(Form1hauptform, PersonalloeschenLaedtDieNamenslisteNeu) {
+TEST(Form1Navigation, PersonalloeschenLaedtDieNamenslisteNeu) {
     test::Bild b;
-    Form1hauptform form(b.f);
+    Hauptform& form = b.f;
     textschreiben(b.u.s, 5003, "Clara Cordes");
     b.f.namensliste();
     ASSERT_EQ(b.zeile(0).liste[2], "Clara Cordes");
