@@ -147,9 +147,9 @@ public:
     bool sanduhr = false;
 
     // --- the panel's state
-    // Survives from page to page. Before a page of the width rule has set it, the panel has
-    // the narrowest width that rule gives, so that a first page outside it is not 0 wide.
-    std::int16_t Tablettbreite = 3200;
+    // Survives from page to page. 0 until a page has set it: a first page outside the width
+    // rule then takes the rule's width, the width of the result column it covers.
+    std::int16_t Tablettbreite = 0;
     std::int32_t Hilfeseite = 0;
     std::int16_t Comboaktiv = 0;
     std::int16_t Schirmsperre = 0; // -1 while a batch pass over the records runs

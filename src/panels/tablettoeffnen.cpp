@@ -49,8 +49,6 @@ void Tablett::tablettoeffnen() {
 
 void Tablett::breiteregel() {
     const int seite = s.Tablettseite;
-    if (seite < 2 || seite > 35)
-        return;
     const auto mindestens = [this](int mindestbreite) {
         const int breite =
             form.panel3d2breite > mindestbreite ? form.panel3d2breite : mindestbreite;
@@ -60,6 +58,8 @@ void Tablett::breiteregel() {
         mindestens(3200);
     else if (seite == 7)
         mindestens(4550);
+    else if (Tablettbreite == 0)
+        mindestens(3200); // a first page outside the rule covers the result column too
 }
 
 void Tablett::platzieren() {

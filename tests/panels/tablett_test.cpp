@@ -78,11 +78,11 @@ TEST(Tablett, SeitenOhneBreiteregelBehaltenDieLetzteBreite) {
     test::Umgebung u;
     Form1lage f = hauptform(3600);
     Tablett t(u.s, f);
-    // Before any page set a width the panel has the narrowest of the rule: page 6 opened
-    // first is 3200 wide, although the result column is 3600.
+    // Before any page set a width, a first page outside the rule takes the rule's width:
+    // page 6 opened first covers the result column of 3600.
     oeffnen(t, 6);
-    EXPECT_EQ(t.Tablettbreite, 3200);
-    EXPECT_EQ(t.lage.breite, 3200);
+    EXPECT_EQ(t.Tablettbreite, 3600);
+    EXPECT_EQ(t.lage.breite, 3600);
     oeffnen(t, 29);
     f.panel3d2breite = 5000;
     for (int seite : {6, 23, 44, 61}) {
