@@ -36,6 +36,27 @@ std::int16_t schichtAus(const Optionen& o) {
     throw Aufruffehler("--schicht muss INFO, PLAN oder REAL sein, nicht \"" + w + "\".");
 }
 
+struct Befehl {
+    const char* name;
+    int (*ausfuehren)(Kontext&, std::ostream&);
+    bool mitOrdner; // the command works on the stored data of the folder
+};
+
+// The wage-tax run and the table band compute from their options alone.
+constexpr Befehl befehle[] = {
+    {"anlegen", anlegen, true},         {"zeigen", zeigen, true},
+    {"setzen", setzen, true},           {"satz", satz, true},
+    {"uebertragen", uebertragen, true}, {"lohnsteuer", lohnsteuer, false},
+    {"tabelle", tabelle, false},
+};
+
+const Befehl* befehlVon(const std::string& name) {
+    for (const Befehl& b : befehle)
+        if (name == b.name)
+            return &b;
+    return nullptr;
+}
+
 } // namespace
 
 Knopf CliDialoge::zeigen(const Meldung& meldung) {
@@ -43,7 +64,7 @@ Knopf CliDialoge::zeigen(const Meldung& meldung) {
     return skript_.zeigen(meldung);
 }
 
-Kontext::Kontext(const Optionen& o)
+Kontext::Kontext(const Optionen& o, bool mitOrdner)
     : optionen(o), dialoge(o.schalter("ja")), json(o.schalter("json")) {
     if (o.schalter("ja") && o.schalter("nein"))
         throw Aufruffehler("--ja und --nein schließen einander aus.");
@@ -55,7 +76,8 @@ Kontext::Kontext(const Optionen& o)
     s.dialoge = &dialoge;
     s.jahr = static_cast<std::int16_t>(o.zahl("jahr", 1997, 1998, 1997));
     s.schicht = schichtAus(o);
-    starten(s);
+    if (mitOrdner)
+        starten(s);
 }
 
 void Kontext::meldungenAnhaengen(Json& j) const {
@@ -72,28 +94,13 @@ int ausfuehren(int argc, char** argv) {
     }
     try {
         Optionen o(argc, argv);
-        using Befehl = int (*)(Kontext&, std::ostream&);
-        Befehl befehl = nullptr;
-        if (o.befehl() == "anlegen")
-            befehl = anlegen;
-        else if (o.befehl() == "zeigen")
-            befehl = zeigen;
-        else if (o.befehl() == "setzen")
-            befehl = setzen;
-        else if (o.befehl() == "satz")
-            befehl = satz;
-        else if (o.befehl() == "lohnsteuer")
-            befehl = lohnsteuer;
-        else if (o.befehl() == "tabelle")
-            befehl = tabelle;
-        else if (o.befehl() == "uebertragen")
-            befehl = uebertragen;
-        else if (o.befehl() == "installieren")
+        if (o.befehl() == "installieren")
             return installieren(o, std::cout);
-        else
+        const Befehl* befehl = befehlVon(o.befehl());
+        if (!befehl)
             throw Aufruffehler("Unbekannter Befehl: " + o.befehl());
-        Kontext k(o);
-        return befehl(k, std::cout);
+        Kontext k(o, befehl->mitOrdner);
+        return befehl->ausfuehren(k, std::cout);
     } catch (const Aufruffehler& f) {
         std::cerr << f.what() << "\n" << aufruf;
         return 2;

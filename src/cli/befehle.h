@@ -26,7 +26,9 @@ private:
 
 // A session opened on the folder, year and layer of the common options.
 struct Kontext {
-    explicit Kontext(const Optionen& o);
+    // With `mitOrdner` the working folder is opened (and so created) as the program starts;
+    // commands that need no stored data leave it untouched.
+    Kontext(const Optionen& o, bool mitOrdner);
     const Optionen& optionen;
     CliDialoge dialoge;
     Sitzung s;

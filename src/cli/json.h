@@ -43,4 +43,14 @@ template <typename F> void feldJson(Json& j, std::string_view name, const F& f) 
     j.feldEnde();
 }
 
+// The six switch arrays of a record or the working set, in the order of the record.
+template <typename S> void schalterJson(Json& j, const S& s) {
+    feldJson(j, "lst", s.lst);
+    feldJson(j, "soz", s.soz);
+    feldJson(j, "zvk", s.zvk);
+    feldJson(j, "wei", s.wei);
+    feldJson(j, "tei", s.tei);
+    feldJson(j, "bru", s.bru);
+}
+
 } // namespace lonvir::cli

@@ -28,12 +28,7 @@ void alsJson(Kontext& k, std::ostream& aus) {
     feldJson(j, "lstwert", s.lstwert);
     feldJson(j, "svwert", s.svwert);
     feldJson(j, "zvkwert", s.zvkwert);
-    feldJson(j, "lst", s.lst);
-    feldJson(j, "soz", s.soz);
-    feldJson(j, "zvk", s.zvk);
-    feldJson(j, "wei", s.wei);
-    feldJson(j, "tei", s.tei);
-    feldJson(j, "bru", s.bru);
+    schalterJson(j, s);
     j.text("bdabeginn", cp1252NachUtf8(s.bdabeginn));
     j.feldAnfang("zeilen");
     for (int zeile = 0; zeile <= 45; ++zeile)

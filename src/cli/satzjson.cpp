@@ -30,12 +30,7 @@ void personalsatz(Json& j, std::span<const std::uint8_t> b) {
     feldJson(j, "merkmal", p.merkmal); // elements 1..45
     feldJson(j, "wert", p.wert);
     feldJson(j, "nebenwert", p.nebenwert);
-    feldJson(j, "lst", p.lst);
-    feldJson(j, "soz", p.soz);
-    feldJson(j, "zvk", p.zvk);
-    feldJson(j, "wei", p.wei);
-    feldJson(j, "tei", p.tei);
-    feldJson(j, "bru", p.bru);
+    schalterJson(j, p);
     j.text("bdabeginn", cp1252NachUtf8(p.bdabeginn));
 }
 

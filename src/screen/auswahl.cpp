@@ -141,13 +141,7 @@ void Form1::z_Click(int zeile) {
         if (s.personalart() > 4)
             for (int z = 37; z <= 40; ++z)
                 s.merkmal[z] = 0;
-        gruppenliste();
-        amtsliste();
-        stufenliste();
-        familienliste();
-        stellenzulageliste();
-        zulagenliste();
-        monatsliste();
+        personalartlisten();
         positionenklemmen();
         positionensetzen();
         sperrbild();

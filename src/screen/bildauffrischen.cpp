@@ -50,13 +50,7 @@ void Form1::bildauffrischen() {
         satzlesen(s);
     }
     // 3.
-    gruppenliste();
-    amtsliste();
-    stufenliste();
-    familienliste();
-    stellenzulageliste();
-    zulagenliste();
-    monatsliste();
+    personalartlisten();
     kvliste();
     beitragslisten();
     if (!jahr)

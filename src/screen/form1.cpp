@@ -54,21 +54,12 @@ void Form1::laden() {
 }
 
 void Form1::jahresanzeige() {
-    bild.titel = std::string("LONVIR ") + (s.ist1997() ? "1997" : std::to_string(s.jahr)) +
-                 " im öffentlichen Dienst    (ohne Gewähr)";
+    bild.titel = fenstertitel(s);
 }
 
 // The place where the user stopped: person, month and layer of the settings of the year.
 void Form1::ortwiederherstellen() {
-    const std::int32_t person = s.voreinstellung[15].gerundetInt32();
-    s.aktuelleperson = static_cast<std::int16_t>(person >= 1 && person <= 1000 ? person : 1);
     bild.aktiveSchicht = lonvir::ortwiederherstellen(s);
-    const int letzte = static_cast<int>(bild.zeilen[0].liste.size()) - 1;
-    if (s.merkmal[0] > letzte)
-        s.merkmal[0] = static_cast<std::int16_t>(letzte);
-    if (s.merkmal[0] < 0)
-        s.merkmal[0] = 0;
-    s.aktuelleperson = static_cast<std::int16_t>(s.merkmal[0] + 1);
     bildauffrischen();
 }
 

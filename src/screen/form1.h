@@ -79,6 +79,8 @@ public:
     void zulagenliste();
     void monatsliste();
     void kvliste();
+    // Rows 5 to 9, 11 and 20: the lists that follow the staff class, group and month.
+    void personalartlisten();
     void beitragslisten();
 
     // --- the screen

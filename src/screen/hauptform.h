@@ -5,7 +5,13 @@
 
 #include "start/sitzung.h"
 
+#include <string>
+
 namespace lonvir {
+
+// The caption of the main window: "LONVIR 1997 im öffentlichen Dienst    (ohne Gewähr)", with
+// the year of the open set.
+[[nodiscard]] std::string fenstertitel(const Sitzung& s);
 
 class Hauptform {
 public:

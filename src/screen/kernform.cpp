@@ -8,6 +8,11 @@
 
 namespace lonvir {
 
+std::string fenstertitel(const Sitzung& s) {
+    return std::string("LONVIR ") + (s.ist1997() ? "1997" : std::to_string(s.jahr)) +
+           " im öffentlichen Dienst    (ohne Gewähr)";
+}
+
 void Kernform::bildauffrischen() {
     const std::int16_t monat = s_.merkmal[20] >= 0 && s_.merkmal[20] <= 12 ? s_.merkmal[20] : 0;
     monatladen(s_, s_.aktuelleperson, monat);
@@ -17,8 +22,7 @@ void Kernform::bildauffrischen() {
 }
 
 void Kernform::jahresanzeige() {
-    titel = std::string("LONVIR ") + (s_.ist1997() ? "1997" : std::to_string(s_.jahr)) +
-            " im öffentlichen Dienst    (ohne Gewähr)";
+    titel = fenstertitel(s_);
 }
 
 void Kernform::entladen() {
@@ -29,13 +33,6 @@ void Kernform::laden() {
     sanduhr(true);
     s_.aenderungssperre = -1;
     s_.anzahlnamen = personenzaehlen(s_);
-    // The person of the settings of the year, as far as the name list reaches.
-    std::int32_t person = s_.voreinstellung[15].gerundetInt32();
-    if (person > s_.anzahlnamen)
-        person = s_.anzahlnamen;
-    if (person < 1)
-        person = 1;
-    s_.aktuelleperson = static_cast<std::int16_t>(person);
     s_.startphase = 0;
     zeilenfarben();
     jahresanzeige();

@@ -88,6 +88,16 @@ void Form1::namensliste() {
     textlistesetzen(0, textnummer::ersterName, textnummer::ersterName - 1 + s.anzahlnamen);
 }
 
+void Form1::personalartlisten() {
+    gruppenliste();
+    amtsliste();
+    stufenliste();
+    familienliste();
+    stellenzulageliste();
+    zulagenliste();
+    monatsliste();
+}
+
 void Form1::gruppenliste() {
     const Textbereich b = gruppenbereich(s.personalart(), s.jahr);
     textlistesetzen(5, b.anfang, b.ende);

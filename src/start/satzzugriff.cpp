@@ -24,35 +24,32 @@ void personalsatzschreiben(Sitzung& s, int dateinummer, int satznummer, const Pe
     s.datei(dateinummer).schreiben(satznummer, p.bytes());
 }
 
+namespace {
+// The fields a record and the working set share, from one to the other; element 0 of
+// merkmal has no place in the record and stays.
+template <typename Von, typename Nach> void felderkopieren(const Von& von, Nach& nach) {
+    for (int i = 1; i <= 45; ++i)
+        nach.merkmal[i] = von.merkmal[i];
+    nach.wert = von.wert;
+    nach.nebenwert = von.nebenwert;
+    nach.lst = von.lst;
+    nach.soz = von.soz;
+    nach.zvk = von.zvk;
+    nach.wei = von.wei;
+    nach.tei = von.tei;
+    nach.bru = von.bru;
+    nach.bdabeginn = von.bdabeginn;
+}
+} // namespace
+
 void satzlesen(Sitzung& s) {
     monatsdateiSetzen(s);
-    const Personalsatz p = personalsatzlesen(s, s.aktuellerdatei, s.aktuelleperson);
-    for (int i = 1; i <= 45; ++i)
-        s.merkmal[i] = p.merkmal[i];
-    s.wert = p.wert;
-    s.nebenwert = p.nebenwert;
-    s.lst = p.lst;
-    s.soz = p.soz;
-    s.zvk = p.zvk;
-    s.wei = p.wei;
-    s.tei = p.tei;
-    s.bru = p.bru;
-    s.bdabeginn = p.bdabeginn;
+    felderkopieren(personalsatzlesen(s, s.aktuellerdatei, s.aktuelleperson), s);
 }
 
 Personalsatz arbeitssatz(const Sitzung& s) {
     Personalsatz p;
-    for (int i = 1; i <= 45; ++i)
-        p.merkmal[i] = s.merkmal[i];
-    p.wert = s.wert;
-    p.nebenwert = s.nebenwert;
-    p.lst = s.lst;
-    p.soz = s.soz;
-    p.zvk = s.zvk;
-    p.wei = s.wei;
-    p.tei = s.tei;
-    p.bru = s.bru;
-    p.bdabeginn = s.bdabeginn;
+    felderkopieren(s, p);
     return p;
 }
 

@@ -94,7 +94,6 @@ struct Sitzung {
     std::int16_t aktuelleperson = 1;
     std::int16_t aktuellerdatei = 1;
     std::int16_t anzahlnamen = 0;
-    std::int16_t anzahlkostenstellen = 0;
     std::int16_t Tablettseite = 0;
 
     // --- the person's month

@@ -47,6 +47,13 @@ Startergebnis starten(Sitzung& s) {
 }
 
 int ortwiederherstellen(Sitzung& s) {
+    // The person of the settings, as far as the name list reaches; 0 counts as person 1.
+    std::int32_t person = s.voreinstellung[15].gerundetInt32();
+    if (person < 1 || person > 1000)
+        person = 1;
+    if (person > s.anzahlnamen)
+        person = s.anzahlnamen < 1 ? 1 : s.anzahlnamen;
+    s.aktuelleperson = static_cast<std::int16_t>(person);
     s.merkmal[0] = pf::int16(s.aktuelleperson - 1);
     const std::int32_t monat = s.voreinstellung[16].gerundetInt32();
     if (monat >= 0 && monat <= 12)

@@ -16,7 +16,8 @@ enum class Startergebnis { hauptform, passwort, angehalten };
 Startergebnis starten(Sitzung& s);
 
 // The rest of the place where the user stopped, as the main form restores it after the
-// start: the person's list position merkmal(0) from the restored person, the month
+// start: the person from voreinstellung(15) cut to the name list (0 and anything outside
+// 1..1000 count as person 1), its list position merkmal(0), the month
 // merkmal(20) from voreinstellung(16) (a value outside 0..12 leaves the month as it is) and
 // the layer from voreinstellung(14), reopening the set when that layer is not the open one.
 // Returns the layer shown as active, or -1 when element 14 is not 0, 1 or 2: then no layer

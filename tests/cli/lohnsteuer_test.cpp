@@ -64,3 +64,16 @@ TEST(CliLohnsteuer, FalscheEingabenSindAufruffehler) {
 }
 
 } // namespace lonvir::test
+
+namespace lonvir::test {
+
+TEST(CliLohnsteuer, LegtKeinenArbeitsordnerAn) {
+    Tempordner o;
+    const std::filesystem::path neu = o.pfad() / "nie";
+    const Clilauf a =
+        clilauf("lohnsteuer --ordner " + neu.string() + " --re4 300000 --lzz 2 --stkl 1 --zkf 0");
+    EXPECT_EQ(a.status, 0);
+    EXPECT_FALSE(std::filesystem::exists(neu));
+}
+
+} // namespace lonvir::test
