@@ -110,9 +110,14 @@ void musterpersonaleinsetzen(Sitzung& s, const std::map<int, Musterperson>& pers
     for (const auto& [nummer, person] : personal)
         for (const auto& [m, satz] : person.monat)
             s.datei(m + 1).schreiben(nummer, satz.bytes());
-    for (const auto& [nummer, person] : personal)
-        for (std::int16_t m = 0; m <= 11; ++m)
-            monatladen(s, static_cast<std::int16_t>(nummer), m);
+    // Twice through the year: the Zuwendung of November counts the months whose stored record
+    // has pay, November's own included, and December's equalisation sums the stored months, so
+    // the first pass stores the pay and the second computes the year from complete months. After
+    // it a refresh of any month changes nothing.
+    for (int durchgang = 1; durchgang <= 2; ++durchgang)
+        for (const auto& [nummer, person] : personal)
+            for (std::int16_t m = 0; m <= 11; ++m)
+                monatladen(s, static_cast<std::int16_t>(nummer), m);
     // The place of the user: the first person in January of layer INFO.
     monatladen(s, 1, 0);
 }

@@ -5,6 +5,7 @@
 #include "core/cp1252.h"
 #include "core/laufzeitfehler.h"
 #include "core/satzdatei.h"
+#include "engine/monatladen.h"
 #include "records/personalsatz.h"
 #include "records/tarifsatz.h"
 #include "start/einstellungen.h"
@@ -415,6 +416,24 @@ TEST(Musterpersonal, DieBeamtinIstAngelegtUndDerStartStehtAufPersonEins) {
     Satzdatei plan;
     plan.oeffnen(i.ordner.pfad() / "L1997P.1", Personalsatz::laenge);
     EXPECT_EQ(plan.laenge(), 20 * Personalsatz::laenge);
+}
+
+// The sample months are stored as the program computes them: loading any month of any sample
+// person again (which computes and stores it) leaves every record of the year as it was. The
+// Zuwendung of November counts November's own stored pay, so a single pass through the year
+// would store eleven twelfths and the first refresh twelve.
+TEST(Musterpersonal, EinNeuesLadenJedesMonatsAendertNichts) {
+    Installiert i;
+    const auto vorher = alledateien(i.ordner.pfad());
+    for (std::int16_t person = 1; person <= 6; ++person)
+        for (std::int16_t monat = 0; monat <= 11; ++monat)
+            monatladen(i.s, person, monat);
+    const auto nachher = alledateien(i.ordner.pfad());
+    for (const auto& [name, inhalt] : vorher) {
+        if (name.rfind("L1997", 0) == 0) {
+            EXPECT_TRUE(nachher.at(name) == inhalt) << name << " hat sich geaendert";
+        }
+    }
 }
 
 TEST(Hilfe, TabellenseitenZeigenDieInstalliertenBetraege) {
