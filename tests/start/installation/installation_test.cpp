@@ -418,6 +418,51 @@ TEST(Musterpersonal, DieBeamtinIstAngelegtUndDerStartStehtAufPersonEins) {
     EXPECT_EQ(plan.laenge(), 20 * Personalsatz::laenge);
 }
 
+namespace {
+
+Personalsatz mustersatz(const Installiert& i, int monat, int person) {
+    Satzdatei d;
+    d.oeffnen(i.ordner.pfad() / ("L1997I." + std::to_string(monat)), Personalsatz::laenge);
+    std::array<std::uint8_t, Personalsatz::laenge> b{};
+    d.lesen(person, b);
+    return Personalsatz::lesen(b);
+}
+
+} // namespace
+
+// Every sample person is paid in January 1997 from the installed tables.
+TEST(Musterpersonal, JedePersonBekommtImJanuarBezuege) {
+    Installiert i;
+    for (int person = 1; person <= 6; ++person) {
+        const Personalsatz p = mustersatz(i, 1, person);
+        EXPECT_GT(p.wert[7], 0) << "Person " << person;
+        EXPECT_GT(p.wert[22], 0) << "Person " << person;
+        EXPECT_GT(p.wert[45], 0) << "Person " << person;
+    }
+    // Person 3, A 7 Ost, service age from 10.1990: (97 - 90) * 12 - 10 + 1 = 75 months, 75 / 24
+    // = 3, step 4. Ost table of 1.10.1995: A 7 step 4 1879.20 DM, Ortszuschlag class II
+    // (A 1 to A 8) step 1 (single) 665.71 DM; gross 2544.91 DM.
+    const Personalsatz krause = mustersatz(i, 1, 3);
+    EXPECT_EQ(krause.merkmal[7], 3);
+    EXPECT_EQ(krause.wert[7], 187920);
+    EXPECT_EQ(krause.wert[8], 66571);
+    EXPECT_EQ(krause.wert[22], 254491);
+    // Person 4, A 6 Ost from 03.1986: 11 * 12 - 3 + 1 = 130 months, step 6 = 1899.11 DM;
+    // married with one child: Ortszuschlag class II step 3 = 937.57 DM; 30 of 40 hours:
+    // (1899.11 + 937.57) * 0.75 = 2836.68 * 0.75 = 2127.51 DM.
+    const Personalsatz wagner = mustersatz(i, 1, 4);
+    EXPECT_EQ(wagner.merkmal[7], 5);
+    EXPECT_EQ(wagner.wert[8], 93757);
+    EXPECT_EQ(wagner.wert[22], 212751);
+    // Person 5, candidate for A 9 to A 11 under 26, Ost 1.10.1995: 1340.00 DM. A year of it,
+    // 16080 DM, less 2000 DM for expenses, 108 DM special expenses and the reduced provision
+    // allowance, stays below the basic allowance of 12095 DM: no wage tax, no insurance, paid
+    // out in full.
+    const Personalsatz yilmaz = mustersatz(i, 1, 5);
+    EXPECT_EQ(yilmaz.wert[7], 134000);
+    EXPECT_EQ(yilmaz.wert[45], 134000);
+}
+
 // The sample months are stored as the program computes them: loading any month of any sample
 // person again (which computes and stores it) leaves every record of the year as it was. The
 // Zuwendung of November counts November's own stored pay, so a single pass through the year
