@@ -30,5 +30,8 @@ void kindergeld(Sitzung& s);
 void sozialversicherung(Sitzung& s);
 // The pay step from the service age.
 void stufeausbda(Sitzung& s);
+// Staff classes whose step does not follow a service age: candidates, workers, drivers,
+// apprentices, the railway and the special tariffs.
+bool ohneDienstalter(int art);
 
 } // namespace lonvir

@@ -11,10 +11,6 @@ namespace lonvir {
 
 namespace {
 
-bool ohneDienstalter(int art) {
-    return art == 4 || (art >= 8 && art <= 12) || art == 16 || art == 17;
-}
-
 bool leer(std::string_view text) {
     for (char c : text)
         if (c != ' ')
@@ -42,6 +38,10 @@ Stufenliste stufenlisteOderTabelle(const Sitzung& s) {
 }
 
 } // namespace
+
+bool ohneDienstalter(int art) {
+    return art == 4 || (art >= 8 && art <= 12) || art == 16 || art == 17;
+}
 
 void stufeausbda(Sitzung& s) {
     const int art = s.personalart();

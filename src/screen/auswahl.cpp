@@ -24,11 +24,6 @@ std::string getrimmt(const std::string& text) {
     return text.substr(anfang, text.find_last_not_of(' ') - anfang + 1);
 }
 
-// Staff classes whose step follows the start of the service age.
-bool mitDienstalter(int art) {
-    return !(art == 4 || (art >= 8 && art <= 12) || art == 16 || art == 17);
-}
-
 // "MM.19JJ" with a month of 1 to 12.
 bool bdagueltig(const std::string& t) {
     const auto ziffer = [&t](std::size_t i) {
@@ -66,7 +61,7 @@ void Form1::z_GotFocus(int zeile) {
 // start of the service age is to go. True when the change goes on.
 bool Form1::stufenfrage() {
     const bool berechnet =
-        mitDienstalter(s.personalart()) && s.merkmal[1] <= 1 && !getrimmt(s.bdabeginn).empty();
+        !ohneDienstalter(s.personalart()) && s.merkmal[1] <= 1 && !getrimmt(s.bdabeginn).empty();
     if (stufeohnefrage || vorherigestufe < 0 || !berechnet || s.dialoge == nullptr)
         return true;
     const std::string bda = "BDA";
