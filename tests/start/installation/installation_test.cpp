@@ -64,6 +64,15 @@ struct Installiert {
     Sitzung s;
 };
 
+// Person `person`'s record of month `monat` (1 to 12) in layer INFO 1997.
+Personalsatz mustersatz(const Installiert& i, int monat, int person) {
+    Satzdatei d;
+    d.oeffnen(i.ordner.pfad() / ("L1997I." + std::to_string(monat)), Personalsatz::laenge);
+    std::array<std::uint8_t, Personalsatz::laenge> b{};
+    d.lesen(person, b);
+    return Personalsatz::lesen(b);
+}
+
 bool hatbetrag(const Tarifsatz& t) {
     for (int e = 0; e <= 14; ++e)
         if (t.wert[e] != 0)
@@ -400,11 +409,7 @@ TEST(Vorgaben, ZeilenfarbenSindDieDerLeerenDatei) {
 
 TEST(Musterpersonal, DieBeamtinIstAngelegtUndDerStartStehtAufPersonEins) {
     Installiert i;
-    Satzdatei juli;
-    juli.oeffnen(i.ordner.pfad() / "L1997I.7", Personalsatz::laenge);
-    std::array<std::uint8_t, Personalsatz::laenge> b{};
-    juli.lesen(1, b);
-    const Personalsatz p = Personalsatz::lesen(b);
+    const Personalsatz p = mustersatz(i, 7, 1);
     EXPECT_EQ(p.merkmal[2], 1);  // Ost
     EXPECT_EQ(p.merkmal[4], 0);  // Bes.Ordn. A
     EXPECT_EQ(p.merkmal[5], 11); // A 9 gD
@@ -417,18 +422,6 @@ TEST(Musterpersonal, DieBeamtinIstAngelegtUndDerStartStehtAufPersonEins) {
     plan.oeffnen(i.ordner.pfad() / "L1997P.1", Personalsatz::laenge);
     EXPECT_EQ(plan.laenge(), 20 * Personalsatz::laenge);
 }
-
-namespace {
-
-Personalsatz mustersatz(const Installiert& i, int monat, int person) {
-    Satzdatei d;
-    d.oeffnen(i.ordner.pfad() / ("L1997I." + std::to_string(monat)), Personalsatz::laenge);
-    std::array<std::uint8_t, Personalsatz::laenge> b{};
-    d.lesen(person, b);
-    return Personalsatz::lesen(b);
-}
-
-} // namespace
 
 // Every sample person is paid in January 1997 from the installed tables.
 TEST(Musterpersonal, JedePersonBekommtImJanuarBezuege) {
