@@ -1,35 +1,20 @@
 // The main screen on a store of 1000 persons: a click on the step list of row 7, from the
 // event to the repainted rows (the model, no window), and a change of person in row 0.
-#include "core/dialoge.h"
 #include "screen/form1.h"
-#include "start/dateisatz.h"
-#include "start/start.h"
-#include "start/texte.h"
+
+#include "bestand.h"
 
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-#include <unistd.h>
+#include <memory>
 
 namespace {
 
-namespace fs = std::filesystem;
-
 // Person 500 as an employee (BAT, group 6) whose step is given by hand, so a click on the step
 // list asks nothing and goes straight to the calculation.
-struct Bestand {
-    fs::path ordner = fs::temp_directory_path() / ("lonvir-bild-" + std::to_string(::getpid()));
-    lonvir::SkriptDialoge dialoge;
-    lonvir::Sitzung s;
+struct Bestand : lonvir::bench::Tausendbestand {
     std::unique_ptr<lonvir::Form1> f;
-    explicit Bestand(std::int16_t monat) {
-        fs::remove_all(ordner);
-        s.ordner = lonvir::Arbeitsordner(ordner);
-        s.dialoge = &dialoge;
-        lonvir::dateienoeffnen(s);
-        for (int n = 1; n <= 1000; ++n)
-            lonvir::textschreiben(s, 5000 + n, std::to_string(n) + ". Name");
-        lonvir::starten(s);
+    explicit Bestand(std::int16_t monat) : Tausendbestand("bild") {
         f = std::make_unique<lonvir::Form1>(s);
         f->listenfuellen();
         f->namensliste();
@@ -40,10 +25,6 @@ struct Bestand {
         f->auswahltreffen(4, 5);
         f->auswahltreffen(5, 6);
         f->auswahltreffen(1, 2);
-    }
-    ~Bestand() {
-        f.reset();
-        fs::remove_all(ordner);
     }
 };
 

@@ -1,41 +1,23 @@
 // A layer transfer of one person (28 openings of the file set) and a layer change on a store
 // of 1000 persons (reopen, settings, refresh of the month).
-#include "core/dialoge.h"
 #include "screen/hauptform.h"
 #include "screen/navigation.h"
 #include "screen/uebertragung.h"
-#include "start/dateisatz.h"
-#include "start/start.h"
-#include "start/texte.h"
+
+#include "bestand.h"
 
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-#include <unistd.h>
+#include <string>
 
 namespace {
 
-namespace fs = std::filesystem;
-
-// A started store of 1000 persons in all three layers, on its own folder.
-struct Bestand {
-    explicit Bestand(const std::string& name)
-        : ordner(fs::temp_directory_path() /
-                 ("lonvir-bench-" + name + "-" + std::to_string(::getpid()))) {
-        fs::remove_all(ordner);
-        s.ordner = lonvir::Arbeitsordner(ordner);
-        s.dialoge = &dialoge;
-        lonvir::dateienoeffnen(s);
-        for (int n = 1; n <= 1000; ++n)
-            lonvir::textschreiben(s, 5000 + n, std::to_string(n) + ". Name");
-        lonvir::starten(s);
+// The store with person 500 in June as the current place.
+struct Bestand : lonvir::bench::Tausendbestand {
+    explicit Bestand(const std::string& name) : Tausendbestand(name) {
         s.aktuelleperson = 500;
         s.merkmal[20] = 5;
     }
-    ~Bestand() { fs::remove_all(ordner); }
-    fs::path ordner;
-    lonvir::SkriptDialoge dialoge;
-    lonvir::Sitzung s;
 };
 
 void BM_uebertragungEinerPerson(benchmark::State& state) {
