@@ -3,13 +3,20 @@
 folder (../shared/data of the worktrees). Run by hand when those tables grow; the TSV files
 are the sources the build compiles. Only published amounts, amounts derived by the stated
 method of the data folder (status derived_unique), and sums of published components are
-written; every other cell stays empty (0). Usage: tarife_erzeugen.py DATENORDNER ZIELORDNER"""
-import csv, sys, os, collections
+written; every other cell stays empty (0). Every derivation is checked against the published
+tables on each run, which stops on a mismatch.
+Usage: tarife_erzeugen.py [--pruefen] DATENORDNER ZIELORDNER
+With --pruefen nothing is written: the sources are generated into a temporary folder and compared
+with those in ZIELORDNER (exit status 1 on any difference); the build's tests run it so."""
+import csv, sys, os, collections, filecmp, tempfile
 from decimal import Decimal, ROUND_HALF_UP
 
 import besoldung_abgeleitet as abl
 
-daten, ziel = sys.argv[1], sys.argv[2]
+pruefen = sys.argv[1] == '--pruefen'
+daten, ziel = sys.argv[1 + pruefen], sys.argv[2 + pruefen]
+if pruefen:
+    vorhanden, ziel = ziel, tempfile.mkdtemp(prefix='tarife_')
 # Public tables found for this project and kept beside the tariff sources (data/tarife/quellen).
 QUELLEN = os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))), 'data', 'tarife',
                        'quellen')
@@ -354,3 +361,10 @@ with open(os.path.join(ziel, 'QUELLEN.md'), 'a', encoding='utf-8') as f:
     for klasse, komp, wahl, andere, _ in west95.unsicher_oz:
         f.write('| %s | %s | %s | %s |\n' % (klasse, komp.replace('_', ' '), abl.dm(wahl),
                                              ', '.join(abl.dm(a) for a in andere)))
+
+if pruefen:
+    abweichend = [n for n in sorted(os.listdir(ziel))
+                  if not filecmp.cmp(os.path.join(ziel, n), os.path.join(vorhanden, n), shallow=False)]
+    if abweichend:
+        sys.exit('Die Tarifquellen in %s weichen vom Erzeugten ab: %s' % (vorhanden, ', '.join(abweichend)))
+    print('Tarifquellen stimmen mit den öffentlichen Tabellen überein.')
