@@ -88,7 +88,7 @@ int druckausgabe(Kontext& k, const Druckauftrag& auftrag, std::ostream& aus) {
     std::string inhalt;
     int seiten = 0;
     if (format == Format::csv) {
-        inhalt = auftrag.csv().inhalt();
+        inhalt = auftrag.csv().text();
     } else {
         auftrag.drucken(drucker);
         if (format == Format::text) {

@@ -1,5 +1,5 @@
 // The reports of `lonvir97-cli drucken BERICHT`, and the output of printed reports as text,
-// PDF or CSV.
+// PDF or CSV (core/csv.h).
 //
 // A report registers itself with one entry in its own source file of src/cli:
 //
@@ -9,8 +9,12 @@
 //         b.name = "beitragsnachweis";
 //         b.titel = "Beitragsnachweis";
 //         b.optionen = {"monat", "kostenstelle"};
-//         b.drucken = [](Kontext& k, Drucker& d) { beitragsnachweis(k.s, monatAus(k), d); };
-//         b.csv = [](Kontext& k) { return beitragsnachweisliste(k.s, monatAus(k)); };
+//         b.drucken = [](Kontext& k, Drucker& d) {
+//             beitragsnachweisdrucken(k.s, beitragsnachweisbilden(k.s, monatAus(k)), d);
+//         };
+//         b.csv = [](Kontext& k) {
+//             return beitragsnachweiscsv(beitragsnachweisbilden(k.s, monatAus(k)));
+//         };
 //         return b;
 //     }
 //     const Druckberichtanmeldung anmeldung(bericht());
@@ -30,7 +34,7 @@
 #pragma once
 
 #include "cli/befehle.h"
-#include "core/csvdatei.h"
+#include "core/csv.h"
 #include "core/drucker.h"
 
 #include <functional>
