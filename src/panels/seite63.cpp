@@ -14,7 +14,7 @@ constexpr const char* zeilen[5] = {"KV", "PV", "RV", "AV", "Geringfüg.Grenze"};
 constexpr int kopf = 3;
 constexpr int zeilenanfang = 900;
 constexpr int zeilenabstand = 360;
-constexpr int beschriftung = 1000;
+constexpr int beschriftung = 1400;
 
 } // namespace
 
