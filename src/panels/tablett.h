@@ -5,6 +5,7 @@
 
 #include "core/feld.h"
 #include "core/hilfe.h"
+#include "panels/hauptbildauftrag.h"
 #include "start/sitzung.h"
 
 #include <functional>
@@ -161,6 +162,18 @@ public:
     Feld<std::int32_t, 0, 27> umlagewert;
     // The text z(row) shows on the main screen; the screen model supplies it.
     std::function<std::string(int)> zeilenname;
+    // What the pages that keep the tables ask of the main screen; without one, the core's.
+    Hauptbildauftrag auftrag;
+    // Page 22: the search text, the hits as list positions at 1 to 7 (shown in zeile(10 + i)),
+    // and their number.
+    std::string suchtext;
+    Feld<std::int16_t, 0, 8> trefferliste;
+    std::int16_t trefferzahl = 0;
+    // Page 4: the cost centre chosen, 35 characters; blank when all staff are summed.
+    std::string kostenstellenauswahl = std::string(35, ' ');
+    // The range of the text table the text editor opens on; the entries of "Txt" set it.
+    std::int16_t textvon = 1;
+    std::int16_t textbis = 6000;
 
     // --- opening and clearing
     void tablettoeffnen();
@@ -177,6 +190,10 @@ public:
     void Command3_Click();
     void combo_GotFocus(int index);
     void text_GotFocus(int index);
+    // A key in Text(index); returns the key as it goes on, 0 when it is dropped.
+    int text_KeyPress(int index, int taste);
+    // The list Combo(index) has a new position.
+    void combo_Click(int index);
     void zeile_Click(int index);
     void kasten_Click(int index);
     void Form_Click();

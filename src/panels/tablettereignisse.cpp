@@ -1,4 +1,5 @@
 // The events of the panel: the buttons, the clicks that hand back to Form1, the form's own.
+#include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tablett.h"
 
@@ -105,7 +106,25 @@ void Tablett::text_GotFocus(int index) {
     fokus = {Tablettfokusart::text, index};
 }
 
-void Tablett::zeile_Click(int) {
+int Tablett::text_KeyPress(int index, int taste) {
+    if (s.Tablettseite == 22 && index == 1 && taste == 13) {
+        namensuchen(*this);
+        return 0;
+    }
+    return taste;
+}
+
+void Tablett::combo_Click(int index) {
+    // Only a choice after the focus came to the list is the user's.
+    if (s.Tablettseite == 4 && index == 0 && Comboaktiv == 1) {
+        Comboaktiv = 0;
+        kostenstellewaehlen(*this);
+    }
+}
+
+void Tablett::zeile_Click(int index) {
+    if (s.Tablettseite == 22 && index >= 10 && index <= 18)
+        trefferwaehlen(*this, index);
     if (erklaerseite(s.Tablettseite))
         schliessen();
 }

@@ -1,6 +1,8 @@
 // Opening a page: clear, width, placement beside or over the left column, dispatch, show.
+#include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tablett.h"
+#include "panels/tarife.h"
 
 namespace lonvir {
 
@@ -24,6 +26,18 @@ Tablett::Tablett(Sitzung& sitzung, Form1lage& f, Hilfe* h) : s(sitzung), form(f)
         sozialbetraege(t);
     };
     bauer_[35] = teilzeitseite;
+    bauer_[4] = amtseite;
+    bauer_[22] = namenseite;
+    bauer_[68] = reformseite;
+    // The tariff editor and the text editor are forms of their own: the face shows them.
+    for (int seite : {54, 55, 56, 57, 58, 59, 60, 62})
+        bauer_[seite] = [](Tablett& t) { t.formwunsch = "Tarife"; };
+    bauer_[69] = [](Tablett& t) {
+        t.textvon = 5001;
+        t.textbis = 6000;
+        t.formwunsch = "Textedit";
+    };
+    auftrag = kernauftrag(s);
     zeilenname = [this](int z) { return zeilenbezeichnung(s, z); };
 }
 

@@ -20,6 +20,8 @@ enum class Menueaktion {
     personalloeschen, // deletes the persons of year `zahl`
     beenden,          // MBeenden
     zeilenhilfe,      // MHilfe: the help of the current row
+    kv,               // shows the form KV of the health-insurance rates
+    texte,            // shows Textedit on the range of the entry (the menu "Txt")
 };
 
 struct Menuepunkt {
