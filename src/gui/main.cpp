@@ -11,6 +11,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
@@ -24,6 +25,7 @@ struct Aufruf {
     QString bildschirmfoto; // file of a picture of the window, then the program ends
     QSize groesse;          // window size for the picture
     int seite = 0;          // a page of the panel opened for the picture
+    QString menue;          // a menu entry clicked for the picture; a form it shows is taken
 };
 
 Aufruf aufrufLesen(const QApplication& app) {
@@ -41,7 +43,10 @@ Aufruf aufrufLesen(const QApplication& app) {
     const QCommandLineOption seite(QStringLiteral("seite"),
                                    QStringLiteral("Seite des Tabletts für das Bild"),
                                    QStringLiteral("N"));
-    p.addOptions({ordner, foto, groesse, seite});
+    const QCommandLineOption menue(QStringLiteral("menue"),
+                                   QStringLiteral("Menüpunkt für das Bild, z. B. M_KV"),
+                                   QStringLiteral("NAME"));
+    p.addOptions({ordner, foto, groesse, seite, menue});
     p.process(app);
     Aufruf a;
     a.ordner = p.isSet(ordner) ? p.value(ordner)
@@ -51,6 +56,7 @@ Aufruf aufrufLesen(const QApplication& app) {
     if (teile.size() == 2)
         a.groesse = QSize(teile[0].toInt(), teile[1].toInt());
     a.seite = p.value(seite).toInt();
+    a.menue = p.value(menue);
     return a;
 }
 
@@ -59,13 +65,22 @@ void fotografieren(lonvir::gui::Form1Fenster& fenster, lonvir::gui::Tablettanbin
     fenster.geometrieFesthalten();
     if (a.groesse.isValid())
         fenster.resize(a.groesse);
+    // A form that a page or a menu entry shows is the picture itself.
+    static QPointer<QDialog> form;
+    QObject::connect(&tablett, &lonvir::gui::Tablettanbindung::formGezeigt, &fenster,
+                     [](QDialog* f) { form = f; });
     QTimer::singleShot(500, &fenster, [&fenster, &tablett, a] {
         fenster.bildausrechnen(true);
         fenster.darstellen();
         if (a.seite > 0)
             tablett.seiteoeffnen(a.seite);
-        const bool gespeichert = fenster.grab().save(a.bildschirmfoto);
-        QApplication::exit(gespeichert ? 0 : 4);
+        if (!a.menue.isEmpty())
+            tablett.menueklick(a.menue.toStdString());
+        QTimer::singleShot(300, &fenster, [&fenster, a] {
+            const bool gespeichert =
+                form ? form->grab().save(a.bildschirmfoto) : fenster.grab().save(a.bildschirmfoto);
+            QApplication::exit(gespeichert ? 0 : 4);
+        });
     });
 }
 

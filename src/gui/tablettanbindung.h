@@ -8,6 +8,7 @@
 #include "panels/tablett.h"
 #include "screen/hauptmenue.h"
 
+#include <QDialog>
 #include <QObject>
 
 #include <memory>
@@ -31,6 +32,10 @@ public:
     // Opens page `seite` as a menu entry or button does.
     void seiteoeffnen(int seite);
 
+signals:
+    // A form of its own (tariffs, rates, texts) has been shown.
+    void formGezeigt(QDialog* form);
+
 private:
     // Anzeige: the rows go to the main screen, the refresh of the page to the panel.
     void zeilemalen(int zeile) override { f_.modell().zeilemalen(zeile); }
@@ -38,6 +43,8 @@ private:
     void mauszeigerNormal() override { f_.modell().mauszeigerNormal(); }
 
     void ausfuehren(const std::function<void()>& handler);
+    void formzeigen(const std::string& name);
+    [[nodiscard]] Hauptbildauftrag hauptbildauftrag();
     void formlageholen();
     [[nodiscard]] double twipsJePixel() const;
 

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -61,6 +62,12 @@ TablettFenster::TablettFenster(Tablett& modell,
         listen_[i] = new QComboBox(this);
         listen_[i]->setObjectName(QStringLiteral("Combo%1").arg(i));
         listen_[i]->installEventFilter(this);
+        connect(listen_[i], &QComboBox::activated, this, [this, index](int position) {
+            ereignis_([this, index, position] {
+                t_.Combo[index].position = position;
+                t_.combo_Click(index);
+            });
+        });
     }
     for (std::size_t i = 0; i < 2; ++i) {
         gitter_[i] = new QTableWidget(this);
@@ -100,6 +107,22 @@ bool TablettFenster::eventFilter(QObject* objekt, QEvent* ereignis) {
             return true;
         }
     }
+    if (ereignis->type() == QEvent::KeyPress)
+        for (int i = 0; i <= 17; ++i) {
+            if (objekt != texte_[static_cast<std::size_t>(i)])
+                continue;
+            const auto* k = static_cast<QKeyEvent*>(ereignis);
+            if (k->key() != Qt::Key_Return && k->key() != Qt::Key_Enter)
+                break;
+            int weiter = 13;
+            ereignis_([this, i, &weiter] {
+                t_.Text[i].text = texte_[static_cast<std::size_t>(i)]->text().toStdString();
+                weiter = t_.text_KeyPress(i, 13);
+            });
+            if (weiter == 0)
+                return true;
+            break;
+        }
     if (ereignis->type() == QEvent::FocusIn)
         for (int i = 0; i <= 17; ++i) {
             if (objekt == texte_[static_cast<std::size_t>(i)])
@@ -162,6 +185,9 @@ void TablettFenster::darstellen(double twipsJePixel) {
             b->addItem(qtext(eintrag));
         b->setCurrentIndex(c.position);
         b->setGeometry(rechteck(c.lage));
+        b->setFont(schrift("arial", c.schriftgroesse, false));
+        b->setStyleSheet(QStringLiteral("QComboBox { color: %1; background: %2; }")
+                             .arg(farbe(c.vordergrund), farbe(c.hintergrund)));
         b->setEnabled(c.aktiv);
         b->setVisible(c.sichtbar);
     }

@@ -182,6 +182,8 @@ void amtseite(Tablett& t) {
         liste.liste.push_back(textgetrimmt(t.s, nummer));
     liste.lage = {seitenlage::links, 3300, 3500, 315};
     liste.vordergrund = 15;
+    liste.hintergrund = 12;
+    liste.schriftgroesse = 9.75;
     liste.position = 0;
     liste.sichtbar = true;
     t.Comboaktiv = 0;

@@ -81,7 +81,7 @@ void reformseite(Tablett& t) {
             break;
         if (t.s.wert[zeile] == 0 && zeile != 22)
             continue;
-        erklaerzeile(t, i++, t.zeilenname(zeile), t.s.wert[zeile]);
+        erklaerzeile(t, i++, zeile == 22 ? "Bruttogehalt" : t.zeilenname(zeile), t.s.wert[zeile]);
     }
     t.Command2.text = "Schließen";
     t.Command2.lage = {seitenlage::links,

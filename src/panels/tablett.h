@@ -45,6 +45,8 @@ struct Tablettliste {
     std::vector<std::string> liste;
     int position = -1;
     int vordergrund = 0;
+    int hintergrund = 15;
+    double schriftgroesse = 8.25;
 };
 
 // A label of the array zeile: a row caption.

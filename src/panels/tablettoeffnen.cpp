@@ -136,6 +136,9 @@ void Tablett::tablettleeren() {
         Text[i].hintergrund = 15;
         Combo[i].sichtbar = false;
         Combo[i].vordergrund = 0;
+        // Only the cost-centre list is white on red and larger: the others stay as they were.
+        Combo[i].hintergrund = 15;
+        Combo[i].schriftgroesse = 8.25;
     }
     for (int i = 0; i <= 28; ++i) {
         Tablettzeile& z = zeile[i];

@@ -167,6 +167,7 @@ TEST(Namen, Seite4ListetDieKostenstellenAbSatz4800) {
     EXPECT_EQ(c.position, 0);
     EXPECT_EQ(c.lage, (Lage{100, 3300, 3500, 315}));
     EXPECT_EQ(c.vordergrund, 15);
+    EXPECT_EQ(c.hintergrund, 12);
     // The program's own change of the position is no choice.
     t.Combo[0].position = 1;
     t.combo_Click(0);
