@@ -15,8 +15,8 @@ namespace {
 const char* const aufruf =
     "Aufruf: lonvir97-cli BEFEHL [--ordner DIR] [--jahr 1997|1998] [--schicht INFO|PLAN|REAL]\n"
     "                    [--json] [--ja|--nein] ...\n"
-    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, tarif, text,\n"
-    "         suchen, installieren\n";
+    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, einstellungen,\n"
+    "         tarif, text, suchen, installieren\n";
 
 std::filesystem::path standardordner() {
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
@@ -52,6 +52,7 @@ constexpr Befehl befehle[] = {
     {"uebertragen", uebertragen, true},
     {"lohnsteuer", lohnsteuer, false},
     {"tabelle", tabelle, false},
+    {"einstellungen", einstellungen, true},
     {"tarif", tarif, true},
     {"text", text, true},
     {"suchen", suchen, true},

@@ -38,6 +38,10 @@ Menuepunkt jahresmenue(const Sitzung& s, int jahr, bool jahr1998) {
     wahl.markiert = jahrgewaehlt(s, jahr);
     Menuepunkt loeschen = eintrag("MSaetze" + j, j + "er Personaldaten löschen ...",
                                   Menueaktion::personalloeschen, jahr);
+    // The tariff structure is that of the open year: the entry of the other year waits.
+    Menuepunkt struktur = seite(jahr == 1997 ? "MHochrechnung97" : "Mhochrechnung98",
+                                "Tarifstruktur " + j + " festlegen", 44);
+    struktur.aktiv = jahr == 1997 ? s.ist1997() : !s.ist1997();
     if (jahr == 1998) {
         wahl.aktiv = jahr1998;
         loeschen.aktiv = jahr1998;
@@ -51,6 +55,7 @@ Menuepunkt jahresmenue(const Sitzung& s, int jahr, bool jahr1998) {
                                j + "_" + std::to_string(tabelle) + "er Tarife editieren ...",
                                nummer));
     }
+    punkte.push_back(std::move(struktur));
     punkte.push_back(std::move(loeschen));
     return menue(jahr == 1997 ? "M97" : "M98", jahr == 1997 ? "97" : "98", std::move(punkte));
 }
@@ -147,8 +152,16 @@ std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
     const bool jahr1998 = !s.ist1997() || s.ordner.laenge("L1998I.1") >= 1;
     return {
         menue("MDatei", "Wie",
-              {eintrag("M_KV", "KV_Beitragssätze ...", Menueaktion::kv, 0),
-               eintrag("MBeenden", "Beenden", Menueaktion::beenden, 0)}),
+              {
+                  seite("Mpasswort", "Passwort ...", 2),
+                  eintrag("MFarben", "Farbe ...", Menueaktion::form, 14),
+                  seite("MVoreinstellungen", "Voreinstellungen ...", 61),
+                  seite("MSozVersDaten", "Sozialversicherungsdaten ...", 63),
+                  eintrag("M_KV", "KV_Beitragssätze ...", Menueaktion::kv, 0),
+                  seite("MZVKDaten", "ZVK ...", 65),
+                  seite("MWeihnachten", "Weihnachtsgeld-Quote ...", 64),
+                  eintrag("MBeenden", "Beenden", Menueaktion::beenden, 0),
+              }),
         jahresmenue(s, 1997, jahr1998),
         jahresmenue(s, 1998, jahr1998),
         textmenue(),
@@ -225,6 +238,9 @@ void menueklick(Menueziel& z, const std::string& name) {
                 z.tablett.textbis = m.textbis;
             }
         z.tablett.formwunsch = "Textedit";
+        break;
+    case Menueaktion::form:
+        z.formwunsch = "Form" + std::to_string(p->zahl);
         break;
     case Menueaktion::keine:
         break;

@@ -33,17 +33,23 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     const std::vector<Menuepunkt> leiste = hauptmenue(u.s);
     EXPECT_EQ(texte(leiste), (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz",
                                                        "ZVK", "GTab", "Amt", "Info", "?"}));
+    EXPECT_EQ(texte(leiste[0].punkte),
+              (std::vector<std::string>{"Passwort ...", "Farbe ...", "Voreinstellungen ...",
+                                        "Sozialversicherungsdaten ...", "KV_Beitragssätze ...",
+                                        "ZVK ...", "Weihnachtsgeld-Quote ...", "Beenden"}));
     EXPECT_EQ(leiste[0].punkte.back().name, "MBeenden");
-    EXPECT_EQ(texte(leiste[1].punkte),
-              (std::vector<std::string>{
-                  "Berechnungen für 1997", "1997_1er Tarife editieren ...",
-                  "1997_2er Tarife editieren ...", "1997_3er Tarife editieren ...",
-                  "1997_4er Tarife editieren ...", "1997er Personaldaten löschen ..."}));
-    EXPECT_EQ(texte(leiste[2].punkte),
-              (std::vector<std::string>{
-                  "Berechnungen für 1998", "1998_1er Tarife editieren ...",
-                  "1998_2er Tarife editieren ...", "1998_3er Tarife editieren ...",
-                  "1998_4er Tarife editieren ...", "1998er Personaldaten löschen ..."}));
+    EXPECT_EQ(
+        texte(leiste[1].punkte),
+        (std::vector<std::string>{"Berechnungen für 1997", "1997_1er Tarife editieren ...",
+                                  "1997_2er Tarife editieren ...", "1997_3er Tarife editieren ...",
+                                  "1997_4er Tarife editieren ...", "Tarifstruktur 1997 festlegen",
+                                  "1997er Personaldaten löschen ..."}));
+    EXPECT_EQ(
+        texte(leiste[2].punkte),
+        (std::vector<std::string>{"Berechnungen für 1998", "1998_1er Tarife editieren ...",
+                                  "1998_2er Tarife editieren ...", "1998_3er Tarife editieren ...",
+                                  "1998_4er Tarife editieren ...", "Tarifstruktur 1998 festlegen",
+                                  "1998er Personaldaten löschen ..."}));
     EXPECT_EQ(leiste[4].name, "MTeilzeit");
     EXPECT_EQ(leiste[4].zahl, 35);
     EXPECT_EQ(leiste[5].zahl, 6);
