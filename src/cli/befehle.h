@@ -46,6 +46,7 @@ int satz(Kontext& k, std::ostream& aus);
 int lohnsteuer(Kontext& k, std::ostream& aus);
 int tabelle(Kontext& k, std::ostream& aus);
 int uebertragen(Kontext& k, std::ostream& aus);
+int drucken(Kontext& k, std::ostream& aus);
 int einstellungen(Kontext& k, std::ostream& aus);
 int tarif(Kontext& k, std::ostream& aus);
 int text(Kontext& k, std::ostream& aus);
