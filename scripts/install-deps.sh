@@ -8,6 +8,7 @@ pakete=(
     qt6-base-dev libgl-dev
     xvfb xauth clang-format
     qt6-translations-l10n fonts-liberation poppler-utils
+    python3
 )
 
 fehlend=()
