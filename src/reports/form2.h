@@ -15,8 +15,9 @@ namespace lonvir {
 
 // Headings of the nine cost columns, slots 2 to 10: in the grid, and on paper on two lines.
 inline constexpr std::array<const char*, 9> spaltenkoepfe = {
-    "Beamtenbezüge",    "Angestelltenverg.", "   Arbeiterlöhne", "Uml.Beamt.Vers.", "Angest.Soz.Vers.",
-    "Arbeiter-Soz.V.", "   ZVK-Umlage",      "  Steuern d.AG",   "Gesamtaufwand"};
+    "Beamtenbezüge",   "Angestelltenverg.", "   Arbeiterlöhne",
+    "Uml.Beamt.Vers.", "Angest.Soz.Vers.",  "Arbeiter-Soz.V.",
+    "   ZVK-Umlage",   "  Steuern d.AG",    "Gesamtaufwand"};
 inline constexpr std::array<const char*, 9> druckkoepfe1 = {
     "      Beamten-", " Angestellten-", "     Arbeiter-", "    Versorgung", "     Soz.Vers.",
     "     Soz.Vers.", "          ZVK-", "   Übernommene", "       Gesamt-"};

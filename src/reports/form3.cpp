@@ -168,8 +168,7 @@ void Form3::zahleneintragen() {
             zelle(k, ag ? kategorie::umlage : kategorie::kirchensteuer, "##,##0.00");
         Grid2.zelle(3, spalte) =
             zelle(k, ag ? kategorie::agSteuern : kategorie::sozial, "##,##0.00");
-        Grid3.zelle(1, spalte) =
-            zelle(k, ag ? kategorie::aufwand : kategorie::netto, "###,##0.00");
+        Grid3.zelle(1, spalte) = zelle(k, ag ? kategorie::aufwand : kategorie::netto, "###,##0.00");
     }
 }
 

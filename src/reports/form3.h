@@ -65,8 +65,8 @@ private:
 };
 
 // The month headings of the grids, columns 4 to 15.
-inline constexpr const char* monatskoepfe[12] = {"Jan", "Feb", "März", "April", "Mai",  "Juni",
-                                                 "Juli", "Aug", "Sept", "Okt",  "Nov", "Dez"};
+inline constexpr const char* monatskoepfe[12] = {"Jan",  "Feb", "März", "April", "Mai", "Juni",
+                                                 "Juli", "Aug", "Sept", "Okt",   "Nov", "Dez"};
 
 // The annual overview on paper: letterhead, the grids with rows and columns exchanged,
 // non-cash benefits and side costs per month, the settings of each month, the remarks.

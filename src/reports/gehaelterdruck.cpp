@@ -1,6 +1,6 @@
 // The two printed lists of the totals: the salaries per person and the months of the staff.
-#include "core/cp1252.h"
 #include "core/druckformat.h"
+#include "reports/berichtskopf.h"
 #include "reports/form2.h"
 #include "start/texte.h"
 
@@ -9,7 +9,7 @@ namespace lonvir {
 namespace {
 
 // The rule under the columns, from the first column to the end of the last one.
-const std::string strichliste(163, '_');
+const std::string strichliste = unterstriche(163);
 
 void kopf(Sitzung& s, Drucker& d) {
     d.Orientation(querformat);
@@ -18,8 +18,7 @@ void kopf(Sitzung& s, Drucker& d) {
     d.FontBold(true);
     d.Print({});
     d.Print({});
-    d.Print({cp1252NachUtf8(s.dienststelle1), Tab{90}, cp1252NachUtf8(s.dienststellenort)});
-    d.Print({cp1252NachUtf8(s.dienststelle2)});
+    briefkopf(s, d, 90);
     d.Print({});
     d.Print({});
 }
@@ -43,7 +42,8 @@ void spaltenkopf(Drucker& d, const char* erste) {
 template <typename Betrag> void betragszeile(Drucker& d, const std::string& erste, Betrag betrag) {
     std::vector<Druckteil> zeile{erste};
     for (std::size_t k = 0; k < 9; ++k)
-        zeile.insert(zeile.end(), {Tab{drucktabs[k]}, tausenderbild(betrag(static_cast<int>(k) + 2))});
+        zeile.insert(zeile.end(),
+                     {Tab{drucktabs[k]}, tausenderbild(betrag(static_cast<int>(k) + 2))});
     d.Print(zeile);
 }
 

@@ -10,8 +10,8 @@ namespace lonvir {
 struct Gitter {
     int festzeilen = 1;
     int festspalten = 1;
-    int hintergrund = 15; // QBColor number of BackColor
-    int vordergrund = 0;  // QBColor number of ForeColor
+    int hintergrund = 15;                         // QBColor number of BackColor
+    int vordergrund = 0;                          // QBColor number of ForeColor
     std::vector<std::vector<std::string>> zellen; // Rows x Cols, UTF-8
 
     // Rows and Cols set anew: every cell empty.

@@ -8,8 +8,7 @@ namespace lonvir {
 
 namespace {
 
-Balkenreihe reihe(std::string name, int farbe,
-                  const std::function<Currency(int)>& wert) {
+Balkenreihe reihe(std::string name, int farbe, const std::function<Currency(int)>& wert) {
     Balkenreihe r{std::move(name), farbe, {}};
     for (int monat = 1; monat <= 12; ++monat)
         r.pfennig[static_cast<std::size_t>(monat - 1)] = wert(monat).roh() / Currency::skala;

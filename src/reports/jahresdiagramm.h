@@ -13,7 +13,7 @@ namespace lonvir {
 
 struct Balkenreihe {
     std::string name;
-    int farbe = 0;                         // QBColor number
+    int farbe = 0;                          // QBColor number
     std::array<std::int64_t, 12> pfennig{}; // January to December
 };
 

@@ -3,6 +3,7 @@
 #include "core/cp1252.h"
 #include "core/druckformat.h"
 #include "core/pfennig.h"
+#include "reports/berichtskopf.h"
 #include "reports/form3.h"
 #include "reports/merkmaltexte.h"
 #include "reports/zeilendrucken.h"
@@ -17,7 +18,7 @@ namespace lonvir {
 
 namespace {
 
-const std::string strich133(133, '_');
+const std::string strich133 = unterstriche(133);
 
 // The overview's columns are the grids' rows: their right ends on paper.
 constexpr std::array<int, 4> grid1ende = {20, 32, 42, 54};
@@ -25,14 +26,6 @@ constexpr std::array<int, 3> grid2ende = {68, 79, 90};
 constexpr int grid3ende = 106;
 constexpr int sachbezugende = 121;
 constexpr int nebenkostenende = 134;
-
-void briefkopf(Sitzung& s, Drucker& d) {
-    d.Print({});
-    d.Print({});
-    d.Print({cp1252NachUtf8(s.dienststelle1), Tab{75}, cp1252NachUtf8(s.dienststellenort)});
-    d.Print({cp1252NachUtf8(s.dienststelle2)});
-    d.Print({});
-}
 
 // One printed line: grid column j of the three grids.
 void gitterspalte(const Form3& f, Drucker& d, int j) {
@@ -95,9 +88,8 @@ void merkmaledrucken(Sitzung& s, const Form3& f, Drucker& d) {
     d.FontBold(true);
     d.Print({"Eingestellte Merkmale:"});
     d.FontBold(false);
-    d.Print({"Monat", Tab{12}, "Gruppe", Tab{22}, "DA-Stufe", Tab{32}, "OZ", Tab{47},
-             "Eheg.i.ö.D.", Tab{62}, "Überstd.", Tab{72}, "Vollzeit", Tab{82}, "Monat", Tab{92},
-             "Kostenstelle"});
+    d.Print({"Monat", Tab{12}, "Gruppe", Tab{22}, "DA-Stufe", Tab{32}, "OZ", Tab{47}, "Eheg.i.ö.D.",
+             Tab{62}, "Überstd.", Tab{72}, "Vollzeit", Tab{82}, "Monat", Tab{92}, "Kostenstelle"});
     for (int monat = 1; monat <= 12; ++monat) {
         const Personalsatz p = personalsatzlesen(s, monat, f.jahresperson);
         const int personalart = p.merkmal[4];
@@ -106,10 +98,10 @@ void merkmaledrucken(Sitzung& s, const Form3& f, Drucker& d) {
         d.Print({Tab{11}, " "}, Zeilenende::bleiben);
         if (const auto gruppe = gruppenname(personalart, p.merkmal[5]))
             d.Print({*gruppe}, Zeilenende::bleiben);
-        d.Print({Tab{21}, Druckzahl{p.merkmal[7]}, Tab{31},
-                 familientext(personalart, p.merkmal[8]), Tab{46}, ehegattentext(p.merkmal[3]),
-                 Tab{61}, formatzahl(p.wert[4] / 100.0, "##0.0"), Tab{71},
-                 faktor(p.wert[1], p.wert[0]), Tab{81}, faktor(p.wert[3], p.wert[2]), Tab{91},
+        d.Print({Tab{21}, Druckzahl{p.merkmal[7]}, Tab{31}, familientext(personalart, p.merkmal[8]),
+                 Tab{46}, ehegattentext(p.merkmal[3]), Tab{61},
+                 formatzahl(p.wert[4] / 100.0, "##0.0"), Tab{71}, faktor(p.wert[1], p.wert[0]),
+                 Tab{81}, faktor(p.wert[3], p.wert[2]), Tab{91},
                  textgetrimmt(s, textnummer::ersteKostenstelle + p.merkmal[27])});
     }
 }
@@ -122,7 +114,10 @@ void jahresuebersichtdrucken(Sitzung& s, const Form3& f, Drucker& d) {
     d.FontSize(12);
     d.FontBold(true);
     // 1.
-    briefkopf(s, d);
+    d.Print({});
+    d.Print({});
+    briefkopf(s, d, 75);
+    d.Print({});
     // 2.
     d.FontSize(14);
     d.FontBold(true);

@@ -92,9 +92,9 @@ Jahressummen jahressummen(Sitzung& s, const Kostenstellenwahl& wahl) {
         for (int m = 1; m <= 12; ++m) {
             const Personalsatz satz = personalsatzlesen(s, m, p);
             // 2.1 A plain substring search, with case: a short choice matches longer names.
-            const bool zaehlt = wahl.position == 0 ||
-                                texte.text(satz.merkmal[27]).find(j.kostenstelle) !=
-                                    std::string::npos;
+            const bool zaehlt =
+                wahl.position == 0 ||
+                texte.text(satz.merkmal[27]).find(j.kostenstelle) != std::string::npos;
             if (!zaehlt)
                 continue;
             // 2.2

@@ -20,15 +20,15 @@ const Namen besoldungB = {"B 1", "B 2", "B 3", "B 4",  "B 5", "B 6",
 const Namen besoldungC = {"C 1", "C 2", "C 3", "C 4"};
 const Namen besoldungR = {"R 1", "R 2", "R 3", "R 4", "R 5", "R 6", "R 7", "R 8", "R 9", "R 10"};
 const Namen anwaerter = {"Anw. eD", "Anw. mD", "Anw. gD", "Anw. hD", "Anw. hD", "Anw. hD"};
-const Namen batWest = {"BAT I",    "BAT Ia",  "BAT Ib",  "BAT IIa", "BAT IIb", "BAT III",
-                       "BAT IVa",  "BAT IVb", "BAT Va",  "BAT Vb",  "BAT Vb",  "BAT Vc",
-                       "BAT VIa",  "BAT VIb", "BAT VII", "BAT VIII", "BAT VIII", "BAT IXa",
-                       "BAT IXb",  "BAT X"};
-const Namen batOst = {"BAT I",   "BAT Ia",  "BAT Ib",   "BAT II",   "BAT III", "BAT IVa",
-                      "BAT IVb", "BAT Vb",  "BAT Vb",   "BAT Vc",   "BAT VIb", "BAT VII",
-                      "BAT VIII", "BAT VIII", "BAT IXa", "BAT IX",  "BAT X"};
-const Namen kr = {"KR I",  "KR II",  "KR III",  "KR IV",  "KR V",   "KR Va",   "KR VI",
-                  "KR VII", "KR VIII", "KR IX", "KR X", "KR XI", "KR XII", "KR XIII"};
+const Namen batWest = {"BAT I",    "BAT Ia",   "BAT Ib",  "BAT IIa", "BAT IIb",
+                       "BAT III",  "BAT IVa",  "BAT IVb", "BAT Va",  "BAT Vb",
+                       "BAT Vb",   "BAT Vc",   "BAT VIa", "BAT VIb", "BAT VII",
+                       "BAT VIII", "BAT VIII", "BAT IXa", "BAT IXb", "BAT X"};
+const Namen batOst = {"BAT I",    "BAT Ia",   "BAT Ib",  "BAT II", "BAT III", "BAT IVa",
+                      "BAT IVb",  "BAT Vb",   "BAT Vb",  "BAT Vc", "BAT VIb", "BAT VII",
+                      "BAT VIII", "BAT VIII", "BAT IXa", "BAT IX", "BAT X"};
+const Namen kr = {"KR I",   "KR II",   "KR III", "KR IV", "KR V",  "KR Va",  "KR VI",
+                  "KR VII", "KR VIII", "KR IX",  "KR X",  "KR XI", "KR XII", "KR XIII"};
 const Namen lohngruppen = {"Lohngr. 1",  "Lohngr. 1a", "Lohngr. 2",  "Lohngr. 2a", "Lohngr. 3",
                            "Lohngr. 3a", "Lohngr. 4",  "Lohngr. 4a", "Lohngr. 5",  "Lohngr. 5a",
                            "Lohngr. 6",  "Lohngr. 6a", "Lohngr. 7",  "Lohngr. 7a", "Lohngr. 8",
@@ -37,10 +37,9 @@ const Namen fahrer = {"LG4 < 200",  "LG4 > 199",  "LG4 > 224",  "LG4 > 248",
                       "LG4a < 200", "LG4a > 199", "LG4a > 224", "LG4a > 248",
                       "LG5 < 200",  "LG5 > 199",  "LG5 > 224",  "LG5 > 248",
                       "LG5a < 200", "LG5a > 199", "LG5a > 224", "LG5a > 248"};
-const Namen kirchlich = {"I",  "Ia",  "Ib",   "II",  "III", "IVa", "IVb",
-                         "Vb", "Vc",  "VI",   "VII", "VIII", "IXa", "IXb",
-                         "X",  "XI",  "XII",  "XIII", "XIV", "XV", "XVI"};
-const Namen bahn = {"E 1", "E 2", "E 3",  "E 4",  "E 5",  "E 6",  "E 7",  "E 8",
+const Namen kirchlich = {"I",    "Ia",  "Ib",  "II", "III", "IVa", "IVb",  "Vb",  "Vc", "VI", "VII",
+                         "VIII", "IXa", "IXb", "X",  "XI",  "XII", "XIII", "XIV", "XV", "XVI"};
+const Namen bahn = {"E 1", "E 2",  "E 3",  "E 4",  "E 5",  "E 6",  "E 7", "E 8",
                     "E 9", "E 10", "E 11", "AT 1", "AT 2", "AT 3", "AT 4"};
 const Namen roemisch = {"I",  "II",  "III",  "IV",  "V",  "VI",  "VII",  "VIII",  "IX",  "X",
                         "XI", "XII", "XIII", "XIV", "XV", "XVI", "XVII", "XVIII", "XIX", "XX"};
@@ -103,11 +102,11 @@ std::optional<std::string> gruppenname(int personalart, int gruppe) {
 }
 
 std::string familientext(int personalart, int familie) {
-    static const Namen ortszuschlag = {"ld",       "vh, 0 Ki", "vh, 1 Ki", "vh, 2 Ki",
-                                       "vh, 3 Ki", "vh, 4 Ki", "vh, 5 Ki", "vh, 6 Ki",
+    static const Namen ortszuschlag = {"ld",       "vh, 0 Ki", "vh, 1 Ki",  "vh, 2 Ki",
+                                       "vh, 3 Ki", "vh, 4 Ki", "vh, 5 Ki",  "vh, 6 Ki",
                                        "ld, 1 Ki", "ld, 2 Ki", "ld. in U.", "manuell"};
-    static const Namen sozialzuschlag = {"kein SZ",  "SZ 1 Ki", "SZ 2 Ki", "SZ 3 Ki",
-                                         "SZ 4 Ki",  "SZ 5 Ki", "SZ 6 Ki"};
+    static const Namen sozialzuschlag = {"kein SZ", "SZ 1 Ki", "SZ 2 Ki", "SZ 3 Ki",
+                                         "SZ 4 Ki", "SZ 5 Ki", "SZ 6 Ki"};
     static const Namen sonst = {"ld", "vh §62(1)", "vh §62(2)"};
     const bool ozListe = (personalart >= 0 && personalart <= 3) ||
                          (personalart >= 5 && personalart <= 7) ||

@@ -1,6 +1,7 @@
 // CSV of the annual overview and of the totals over the staff.
 #include "reports/uebersichtcsv.h"
 
+#include "core/csv.h"
 #include "core/druckformat.h"
 #include "start/texte.h"
 
@@ -9,15 +10,6 @@
 namespace lonvir {
 
 namespace {
-
-std::string feld(const std::string& text) {
-    if (text.find_first_of(";\"\r\n") == std::string::npos)
-        return text;
-    std::string aus = "\"";
-    for (char c : text)
-        aus += c == '"' ? std::string("\"\"") : std::string(1, c);
-    return aus + "\"";
-}
 
 // The grid row's labels in the fixed columns, joined by a blank.
 std::string beschriftung(const Gitter& g, int zeile) {
@@ -30,12 +22,22 @@ std::string beschriftung(const Gitter& g, int zeile) {
     return name;
 }
 
-std::string dm(std::int32_t pfennig) {
-    return formatpfennig(pfennig, "##,##0.00");
+// The categories behind the rows of the three grids in the view shown.
+std::vector<std::pair<const Gitter*, std::vector<int>>> gitterkategorien(const Form3& f) {
+    const bool ag = f.ansichtabzuege == 0;
+    return {
+        {&f.Grid1,
+         {kategorie::grundbezuege, kategorie::zulagen, kategorie::einmalzahlung,
+          kategorie::brutto}},
+        {&f.Grid2,
+         ag ? std::vector<int>{kategorie::agAnteile, kategorie::umlage, kategorie::agSteuern}
+            : std::vector<int>{kategorie::steuern, kategorie::kirchensteuer, kategorie::sozial}},
+        {&f.Grid3, {ag ? kategorie::aufwand : kategorie::netto}},
+    };
 }
 
-std::vector<std::string> kopfzeile(const char* erste, bool mitName) {
-    std::vector<std::string> kopf{erste};
+Csvzeile kopfzeile(const char* erste, bool mitName) {
+    Csvzeile kopf{erste};
     if (mitName)
         kopf.emplace_back("Name");
     for (const char* k : spaltenkoepfe)
@@ -43,10 +45,9 @@ std::vector<std::string> kopfzeile(const char* erste, bool mitName) {
     return kopf;
 }
 
-std::vector<std::string> betraege(std::vector<std::string> zeile,
-                                  const std::function<std::int32_t(int)>& betrag) {
+Csvzeile betraege(Csvzeile zeile, const std::function<std::int32_t(int)>& betrag) {
     for (int k = slot::beamtenbezuege; k <= slot::gesamt; ++k)
-        zeile.push_back(dm(betrag(k)));
+        zeile.push_back(csvbetrag(static_cast<std::int64_t>(betrag(k))));
     return zeile;
 }
 
@@ -54,68 +55,60 @@ std::string gesamttext(const Sitzung& s) {
     return "GESAMTSUMME " + std::to_string(s.jahr);
 }
 
-} // namespace
-
-std::string csvtext(const std::vector<std::vector<std::string>>& zeilen) {
-    std::string aus = "\xEF\xBB\xBF";
-    for (const auto& zeile : zeilen) {
-        for (std::size_t i = 0; i < zeile.size(); ++i)
-            aus += (i ? ";" : "") + feld(zeile[i]);
-        aus += "\r\n";
-    }
-    return aus;
+void personenzeilen(Sitzung& s, const Jahressummen& j, Csvtabelle& t) {
+    for (int p = 1; p <= j.bedienstetenzahl; ++p)
+        if (j.gewaehlt(p))
+            t.zeilen.push_back(betraege({std::to_string(p), textgetrimmt(s, 5000 + p)},
+                                        [&](int k) { return j.wert(p, k, 13); }));
 }
 
+} // namespace
+
 std::string jahresuebersichtcsv(const Form3& f) {
-    std::vector<std::vector<std::string>> zeilen;
-    std::vector<std::string> kopf{"Position"};
+    Csvtabelle t;
+    t.kopf = {"Position"};
     for (int spalte = 4; spalte <= 15; ++spalte)
-        kopf.push_back(f.Grid1.zelle(0, spalte));
-    kopf.push_back(f.Grid1.zelle(0, 17));
-    zeilen.push_back(std::move(kopf));
-    for (const Gitter* g : {&f.Grid1, &f.Grid2, &f.Grid3}) {
-        for (int r = 1; r < g->zeilen(); ++r) {
-            std::vector<std::string> zeile{beschriftung(*g, r)};
-            for (int spalte = 4; spalte <= 15; ++spalte)
-                zeile.push_back(g->zelle(r, spalte));
-            zeile.push_back(g->zelle(r, 17));
-            zeilen.push_back(std::move(zeile));
+        t.kopf.push_back(f.Grid1.zelle(0, spalte));
+    t.kopf.push_back(f.Grid1.zelle(0, 17));
+    for (const auto& [gitter, kategorien] : gitterkategorien(f)) {
+        for (std::size_t r = 0; r < kategorien.size(); ++r) {
+            Csvzeile zeile{beschriftung(*gitter, static_cast<int>(r) + 1)};
+            for (int monat = 1; monat <= 13; ++monat) {
+                const Currency wert = f.jahresmatrix.wert(monat, kategorien[r]);
+                zeile.push_back(csvbetrag(wert.roh() / Currency::skala));
+            }
+            t.zeilen.push_back(std::move(zeile));
         }
     }
-    return csvtext(zeilen);
+    return t.text();
 }
 
 std::string gehaelterlistecsv(Sitzung& s, const Jahressummen& j) {
-    std::vector<std::vector<std::string>> zeilen{kopfzeile("Nr.", true)};
-    for (int p = 1; p <= j.bedienstetenzahl; ++p)
-        if (j.gewaehlt(p))
-            zeilen.push_back(betraege({std::to_string(p), textgetrimmt(s, 5000 + p)},
-                                      [&](int k) { return j.wert(p, k, 13); }));
-    zeilen.push_back(betraege({gesamttext(s), ""}, [&](int k) { return j.gesamtsummen[k]; }));
-    return csvtext(zeilen);
+    Csvtabelle t{kopfzeile("Nr.", true), {}};
+    personenzeilen(s, j, t);
+    t.zeilen.push_back(betraege({gesamttext(s), ""}, [&](int k) { return j.gesamtsummen[k]; }));
+    return t.text();
 }
 
 std::string monatsuebersichtcsv(Sitzung& s, const Jahressummen& j) {
-    std::vector<std::vector<std::string>> zeilen{kopfzeile("Monat", false)};
+    Csvtabelle t{kopfzeile("Monat", false), {}};
     for (int m = 1; m <= 12; ++m)
-        zeilen.push_back(betraege({monatsnamen[static_cast<std::size_t>(m - 1)]},
-                                  [&](int k) { return j.monatssummen[m][k]; }));
-    zeilen.push_back(betraege({gesamttext(s)}, [&](int k) { return j.gesamtsummen[k]; }));
-    return csvtext(zeilen);
+        t.zeilen.push_back(betraege({monatsnamen[static_cast<std::size_t>(m - 1)]},
+                                    [&](int k) { return j.monatssummen[m][k]; }));
+    t.zeilen.push_back(betraege({gesamttext(s)}, [&](int k) { return j.gesamtsummen[k]; }));
+    return t.text();
 }
 
 std::string gesamtsummencsv(Sitzung& s, const Form2& f) {
     const Jahressummen& j = f.summen;
-    std::vector<std::vector<std::string>> zeilen{kopfzeile("Nr.", true)};
-    for (int p = 1; p <= j.bedienstetenzahl; ++p)
-        if (j.gewaehlt(p))
-            zeilen.push_back(betraege({std::to_string(p), textgetrimmt(s, 5000 + p)},
-                                      [&](int k) { return j.wert(p, k, 13); }));
-    zeilen.push_back(betraege({gesamttext(s), ""}, [&](int k) { return j.gesamtsummen[k]; }));
+    Csvtabelle t{kopfzeile("Nr.", true), {}};
+    personenzeilen(s, j, t);
+    t.zeilen.push_back(betraege({gesamttext(s), ""}, [&](int k) { return j.gesamtsummen[k]; }));
     for (int m = 1; m <= 12; ++m)
-        zeilen.push_back(betraege({m == 1 ? "davon" : "", monatsnamen[static_cast<std::size_t>(m - 1)]},
-                                  [&](int k) { return j.monatssummen[m][k]; }));
-    return csvtext(zeilen);
+        t.zeilen.push_back(
+            betraege({m == 1 ? "davon" : "", monatsnamen[static_cast<std::size_t>(m - 1)]},
+                     [&](int k) { return j.monatssummen[m][k]; }));
+    return t.text();
 }
 
 } // namespace lonvir

@@ -65,7 +65,8 @@ Gegenrechnung gegenrechnen(const test::Musterbestand& m, int n, const std::strin
         for (int p = 1; p <= n; ++p) {
             const Rohsatz r{d, static_cast<std::size_t>(p - 1) * 541};
             const std::size_t text = static_cast<std::size_t>(4801 + r.merkmal(27) - 1) * 35;
-            if (!kostenstelle.empty() && texte.substr(text, 35).find(kostenstelle) == std::string::npos)
+            if (!kostenstelle.empty() &&
+                texte.substr(text, 35).find(kostenstelle) == std::string::npos)
                 continue;
             g.gesamt += aufwand(r);
             g.brutto += r.merkmal(4) == 18 ? 0 : r.wert(22);

@@ -9,7 +9,8 @@
 namespace lonvir::test {
 
 // Writes person p's record of month m (1..12), changed by `aendern` from the new record.
-inline void monatschreiben(Sitzung& s, int p, int m, const std::function<void(Personalsatz&)>& aendern) {
+inline void monatschreiben(Sitzung& s, int p, int m,
+                           const std::function<void(Personalsatz&)>& aendern) {
     Personalsatz satz = Personalsatz::neu(static_cast<std::int16_t>(m - 1));
     aendern(satz);
     personalsatzschreiben(s, m, p, satz);

@@ -100,11 +100,11 @@ TEST(Jahresmatrix, ACivilServantsCostHoldsGrossLevyAndTheTaxesTheEmployerBears) 
         p.merkmal[4] = 0;
         p.nebenwert[7] = 350000;
         p.wert[22] = 350000;
-        p.wert[31] = 31500;       // levy for the pensions, 9 %
-        p.wert[33] = -40000;      // wage tax ...
-        p.nebenwert[4] = 40000;   // ... borne by the employer
-        p.nebenwert[5] = 3000;    // surcharge borne
-        p.nebenwert[6] = 3600;    // church tax borne
+        p.wert[31] = 31500;     // levy for the pensions, 9 %
+        p.wert[33] = -40000;    // wage tax ...
+        p.nebenwert[4] = 40000; // ... borne by the employer
+        p.nebenwert[5] = 3000;  // surcharge borne
+        p.nebenwert[6] = 3600;  // church tax borne
     });
     const Jahresmatrix m = jahresmatrixbilden(u.s, 1);
     EXPECT_EQ(pf(m, 1, kategorie::agSteuern), 46600);
