@@ -60,6 +60,8 @@ void Tablett::schliessen() {
 void Tablett::Command1_Click() {
     if (s.Tablettseite == 23)
         jahreswertespeichern(*this);
+    else if (s.Tablettseite == 66)
+        vkeerlaeuterung(*this);
 }
 
 void Tablett::command2_Click() {
@@ -87,6 +89,10 @@ void Tablett::command2_Click() {
 
 void Tablett::Command3_Click() {
     const int seite = s.Tablettseite;
+    if (seite == 66) {
+        kostenstellenliste(*this);
+        return;
+    }
     const auto kontext = hilfekontext(seite, s.personalart());
     if (kontext)
         Hilfeseite = *kontext;
@@ -94,6 +100,19 @@ void Tablett::Command3_Click() {
         return;
     if (hilfe)
         hilfe->zeigen(Hilfeseite);
+}
+
+void Tablett::Command4_Click() {
+    if (s.Tablettseite == 66)
+        gesamtauswertung(*this);
+}
+
+void Tablett::combo_Click(int index) {
+    // Page 66: the chosen cost centre's totals; position 0 is all staff.
+    if (s.Tablettseite == 66 && index == 0 && Combo[0].sichtbar) {
+        schliessen();
+        formwunsch = "Form2";
+    }
 }
 
 void Tablett::combo_GotFocus(int index) {

@@ -132,6 +132,8 @@ std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
         seite("MSozialversicherung", "Soz", 29),
         seite("MZusatzversicherung", "ZVK", 8),
         menue("MTabelle", "GTab", tabellenthemen()),
+        eintrag("MJahr", "Jahr", Menueaktion::jahresuebersicht, 0),
+        seite("MVKE", "VKE", 66),
         menue("MInfo", "Info", infothemen()),
         [] {
             Menuepunkt p = menue(
@@ -188,6 +190,11 @@ void menueklick(Menueziel& z, const std::string& name) {
         break;
     case Menueaktion::zeilenhilfe:
         zeilenhilfezeigen(z);
+        break;
+    case Menueaktion::jahresuebersicht:
+        // Page 39 marks the overview; the face shows Form3 with the current person.
+        z.s.Tablettseite = 39;
+        z.tablett.formwunsch = "Form3";
         break;
     case Menueaktion::keine:
         break;

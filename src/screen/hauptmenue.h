@@ -20,6 +20,7 @@ enum class Menueaktion {
     personalloeschen, // deletes the persons of year `zahl`
     beenden,          // MBeenden
     zeilenhilfe,      // MHilfe: the help of the current row
+    jahresuebersicht, // MJahr: the annual overview Form3 of the current person
 };
 
 struct Menuepunkt {
