@@ -48,6 +48,8 @@ signals:
     // The transfer buttons and the remark card belong to the navigation of the layers.
     void uebertragGeklickt(int von, int nach);
     void bemerkungGeklickt();
+    // The word JAHR in the head opens the annual overview, as the menu entry Jahr does.
+    void jahrGeklickt();
 
 protected:
     bool eventFilter(QObject* objekt, QEvent* ereignis) override;
@@ -94,6 +96,7 @@ private:
     QLineEdit* bdaBeginn_ = nullptr;
     QLabel* picture1_ = nullptr;
     QLabel* monatstitel_ = nullptr;
+    QLabel* jahrwort_ = nullptr;
     std::array<QLabel*, 3> schichtpanels_{};
     std::array<QPushButton*, 4> uebertragknoepfe_{};
     QPushButton* command1_ = nullptr;

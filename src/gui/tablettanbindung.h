@@ -34,6 +34,8 @@ public:
     void formzeigen(const std::string& name);
     // A transfer button: between the layers, or in the preset mode transfer and cancel.
     void uebertragknopf(int von, int nach);
+    // Shows the annual overview "Form3" or the totals "Form2" (their own unit).
+    std::function<void(const std::string&)> uebersichtzeigen;
 
 private:
     // Anzeige: the rows go to the main screen, the refresh of the page to the panel.
