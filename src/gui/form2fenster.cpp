@@ -108,7 +108,7 @@ bool Form2Fenster::exportieren(const QString& datei) {
     QFile f(datei);
     if (!f.open(QIODevice::WriteOnly))
         return false;
-    const std::string text = gesamtsummencsv(modell_.s, modell_);
+    const std::string text = gesamtsummencsv(modell_.s, modell_).text();
     return f.write(text.data(), static_cast<qint64>(text.size())) ==
            static_cast<qint64>(text.size());
 }

@@ -138,7 +138,7 @@ bool Form3Fenster::exportieren(const QString& datei) {
     QFile f(datei);
     if (!f.open(QIODevice::WriteOnly))
         return false;
-    const std::string text = jahresuebersichtcsv(modell_);
+    const std::string text = jahresuebersichtcsv(modell_).text();
     return f.write(text.data(), static_cast<qint64>(text.size())) ==
            static_cast<qint64>(text.size());
 }

@@ -7,6 +7,7 @@
 #include "gui/startform.h"
 #include "gui/tablettanbindung.h"
 #include "gui/uebersichtanbindung.h"
+#include "gui/vorschau.h"
 #include "start/start.h"
 
 #include <QApplication>
@@ -154,7 +155,8 @@ int main(int argc, char** argv) {
         lonvir::gui::Form1Fenster fenster(s, dialoge, &hilfe);
         dialoge.elternSetzen(&fenster);
         lonvir::gui::Tablettanbindung tablett(fenster, s, &hilfe);
-        lonvir::gui::Uebersichtanbindung uebersichten(fenster, tablett, s, {});
+        lonvir::gui::Uebersichtanbindung uebersichten(fenster, tablett, s,
+                                                      lonvir::gui::vorschaudruck(&fenster));
         fenster.laden();
         tablett.menueaufbauen();
         start.close();

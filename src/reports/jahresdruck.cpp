@@ -4,9 +4,9 @@
 #include "core/druckformat.h"
 #include "core/pfennig.h"
 #include "reports/berichtskopf.h"
+#include "reports/druckzeilen.h"
 #include "reports/form3.h"
 #include "reports/merkmaltexte.h"
-#include "reports/zeilendrucken.h"
 #include "screen/betragstext.h"
 #include "start/jahressaetze.h"
 #include "start/satzzugriff.h"
@@ -132,8 +132,10 @@ void jahresuebersichtdrucken(Sitzung& s, const Form3& f, Drucker& d) {
     merkmaledrucken(s, f, d);
     // 9.
     d.Print({});
-    zeilendrucken(d, cp1252NachUtf8(s.berichtszeile));
-    zeilendrucken(d, jahressatzlesen(s, f.jahresperson).text(8));
+    std::string drucktext = cp1252NachUtf8(s.berichtszeile);
+    zeilendrucken(d, drucktext);
+    drucktext = jahressatzlesen(s, f.jahresperson).text(8);
+    zeilendrucken(d, drucktext);
     d.EndDoc();
 }
 

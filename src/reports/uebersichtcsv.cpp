@@ -64,7 +64,7 @@ void personenzeilen(Sitzung& s, const Jahressummen& j, Csvtabelle& t) {
 
 } // namespace
 
-std::string jahresuebersichtcsv(const Form3& f) {
+Csvtabelle jahresuebersichtcsv(const Form3& f) {
     Csvtabelle t;
     t.kopf = {"Position"};
     for (int spalte = 4; spalte <= 15; ++spalte)
@@ -80,26 +80,26 @@ std::string jahresuebersichtcsv(const Form3& f) {
             t.zeilen.push_back(std::move(zeile));
         }
     }
-    return t.text();
+    return t;
 }
 
-std::string gehaelterlistecsv(Sitzung& s, const Jahressummen& j) {
+Csvtabelle gehaelterlistecsv(Sitzung& s, const Jahressummen& j) {
     Csvtabelle t{kopfzeile("Nr.", true), {}};
     personenzeilen(s, j, t);
     t.zeilen.push_back(betraege({gesamttext(s), ""}, [&](int k) { return j.gesamtsummen[k]; }));
-    return t.text();
+    return t;
 }
 
-std::string monatsuebersichtcsv(Sitzung& s, const Jahressummen& j) {
+Csvtabelle monatsuebersichtcsv(Sitzung& s, const Jahressummen& j) {
     Csvtabelle t{kopfzeile("Monat", false), {}};
     for (int m = 1; m <= 12; ++m)
         t.zeilen.push_back(betraege({monatsnamen[static_cast<std::size_t>(m - 1)]},
                                     [&](int k) { return j.monatssummen[m][k]; }));
     t.zeilen.push_back(betraege({gesamttext(s)}, [&](int k) { return j.gesamtsummen[k]; }));
-    return t.text();
+    return t;
 }
 
-std::string gesamtsummencsv(Sitzung& s, const Form2& f) {
+Csvtabelle gesamtsummencsv(Sitzung& s, const Form2& f) {
     const Jahressummen& j = f.summen;
     Csvtabelle t{kopfzeile("Nr.", true), {}};
     personenzeilen(s, j, t);
@@ -108,7 +108,7 @@ std::string gesamtsummencsv(Sitzung& s, const Form2& f) {
         t.zeilen.push_back(
             betraege({m == 1 ? "davon" : "", monatsnamen[static_cast<std::size_t>(m - 1)]},
                      [&](int k) { return j.monatssummen[m][k]; }));
-    return t.text();
+    return t;
 }
 
 } // namespace lonvir
