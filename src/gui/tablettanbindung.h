@@ -8,6 +8,7 @@
 #include "panels/tablett.h"
 #include "screen/hauptmenue.h"
 
+#include <QDialog>
 #include <QObject>
 
 #include <memory>
@@ -37,6 +38,10 @@ public:
     // Shows the annual overview "Form3" or the totals "Form2" (their own unit).
     std::function<void(const std::string&)> uebersichtzeigen;
 
+signals:
+    // A form of its own (tariffs, rates, texts) has been shown.
+    void formGezeigt(QDialog* form);
+
 private:
     // Anzeige: the rows go to the main screen, the refresh of the page to the panel.
     void zeilemalen(int zeile) override { f_.modell().zeilemalen(zeile); }
@@ -44,6 +49,7 @@ private:
     void mauszeigerNormal() override { f_.modell().mauszeigerNormal(); }
 
     void ausfuehren(const std::function<void()>& handler);
+    [[nodiscard]] Hauptbildauftrag hauptbildauftrag();
     void formlageholen();
     [[nodiscard]] double twipsJePixel() const;
 
