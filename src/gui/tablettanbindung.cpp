@@ -67,7 +67,6 @@ Tablettanbindung::Tablettanbindung(Form1Fenster& fenster, Sitzung& s, Hilfe* hil
         f_.command7()->setText(QStringLiteral("Reform"));
         seiteoeffnen(68);
     });
-    t_.auftrag = hauptbildauftrag();
 }
 
 // The main screen's part in a change of the tables: the model of Form1 does it.

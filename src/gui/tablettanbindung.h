@@ -5,6 +5,7 @@
 
 #include "gui/form1fenster.h"
 #include "gui/tablettfenster.h"
+#include "panels/hauptbildauftrag.h"
 #include "panels/tablett.h"
 #include "screen/hauptmenue.h"
 

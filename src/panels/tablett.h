@@ -5,7 +5,6 @@
 
 #include "core/feld.h"
 #include "core/hilfe.h"
-#include "panels/hauptbildauftrag.h"
 #include "start/sitzung.h"
 
 #include <functional>
@@ -166,8 +165,6 @@ public:
     Feld<std::int32_t, 0, 27> umlagewert;
     // The text z(row) shows on the main screen; the screen model supplies it.
     std::function<std::string(int)> zeilenname;
-    // What the pages that keep the tables ask of the main screen; without one, the core's.
-    Hauptbildauftrag auftrag;
     // Page 22: the search text, the hits as list positions at 1 to 7 (shown in zeile(10 + i)),
     // and their number.
     std::string suchtext;
