@@ -1,6 +1,9 @@
 // tabelle: one band of the wage-tax table viewer with the six classes.
 #include "cli/befehle.h"
 
+#include "cli/druckberichte.h"
+#include "reports/tabellendruck.h"
+
 #include "reports/lohnsteuertabelle.h"
 
 #include <iomanip>
@@ -34,10 +37,11 @@ Currency kirchensatzAus(const Optionen& o) {
     throw Aufruffehler("--kirche erwartet 8 oder 9, nicht \"" + w + "\".");
 }
 
-Tabellenauswahl auswahlAus(const Optionen& o) {
+Tabellenauswahl auswahlAus(const Optionen& o, bool mitStufe = true) {
     Tabellenauswahl a;
     a.lohnzeitraum = zeitraumAus(o);
-    a.scrollwert = static_cast<std::int32_t>(o.zahl("stufe", 0, lstrtabScrollMax));
+    if (mitStufe)
+        a.scrollwert = static_cast<std::int32_t>(o.zahl("stufe", 0, lstrtabScrollMax));
     a.kinderfreibetraege = halbeSchritte(o, "kinder", false);
     a.besonderetabelle = o.schalter("beamte") ? 1 : 0;
     a.altersentlastung = o.schalter("alter") ? 1 : 0;
@@ -94,9 +98,47 @@ void alsText(const Lohnsteuertabelle& t, std::ostream& aus) {
     }
 }
 
+// A DM amount of --von or --bis: whole DM, or DM and Pfennig after a comma or a point.
+std::int64_t pfennigAus(const Optionen& o, const std::string& name) {
+    const std::string w = o.pflicht(name);
+    const auto trenner = w.find_first_of(",.");
+    const std::string mark = w.substr(0, trenner);
+    const std::string pfennig = trenner == std::string::npos ? "" : w.substr(trenner + 1);
+    const auto ziffern = [](const std::string& t) {
+        return t.find_first_not_of("0123456789") == std::string::npos;
+    };
+    if (mark.empty() || mark.size() > 7 || !ziffern(mark) || pfennig.size() > 2 ||
+        (trenner != std::string::npos && (pfennig.empty() || !ziffern(pfennig))))
+        throw Aufruffehler("--" + name +
+                           " erwartet einen Betrag in DM wie 2000 oder 2000,50, nicht \"" + w +
+                           "\".");
+    return std::stoll(mark) * 100 +
+           (pfennig.empty() ? 0 : std::stoll(pfennig) * (pfennig.size() == 1 ? 10 : 1));
+}
+
+// A range of bands, one line each, through the printer into text, PDF or CSV.
+int tabellenbereich(Kontext& k, std::ostream& aus) {
+    k.optionen.nurErlaubt(
+        {"zeitraum", "kinder", "beamte", "alter", "kirche", "von", "bis", "format", "aus"});
+    Tabellenbereich b;
+    b.auswahl = auswahlAus(k.optionen, false);
+    b.von = scrollwertfuer(b.auswahl.lohnzeitraum, pfennigAus(k.optionen, "von"));
+    b.bis = scrollwertfuer(b.auswahl.lohnzeitraum, pfennigAus(k.optionen, "bis"));
+    if (const std::string fehler = bereichpruefen(b); !fehler.empty())
+        throw Aufruffehler(fehler);
+    Druckauftrag auftrag;
+    auftrag.bericht = "tabelle";
+    auftrag.titel = lstrtabTitel;
+    auftrag.drucken = [&b](Drucker& d) { tabellenbereichdrucken(b, d); };
+    auftrag.csv = [&b] { return tabellenbereichcsv(b); };
+    return druckausgabe(k, auftrag, aus);
+}
+
 } // namespace
 
 int tabelle(Kontext& k, std::ostream& aus) {
+    if (k.optionen.wert("von") || k.optionen.wert("bis"))
+        return tabellenbereich(k, aus);
     k.optionen.nurErlaubt({"zeitraum", "stufe", "kinder", "beamte", "alter", "kirche"});
     Lohnsteuertabelle t;
     t.auswahl = auswahlAus(k.optionen);

@@ -60,3 +60,53 @@ TEST(CliTabelle, FalscheEingabenSindAufruffehler) {
 }
 
 } // namespace lonvir::test
+
+namespace lonvir::test {
+
+TEST(CliTabelle, BereichVonBisAlsTextEineZeileJeBand) {
+    // 2000 DM lies in the band of v 444 (1.998,16 .. 2.002,65), 2010 DM in v 446
+    // (2.007,16 .. 2.011,65): three bands.
+    Tempordner o;
+    const auto ziel = o.pfad() / "tabelle.txt";
+    const Clilauf a = clilauf("tabelle --ordner " + (o.pfad() / "a").string() +
+                                  " --zeitraum monat --von 2000 --bis 2010 --aus " + ziel.string(),
+                              true);
+    ASSERT_EQ(a.status, 0) << a.aus;
+    const std::string text = dateiinhalt(o.pfad(), "tabelle.txt");
+    EXPECT_TRUE(enthaelt(text, "Lohnsteuer-Tabelle 1997 - für Monatsgehälter")) << text;
+    EXPECT_TRUE(enthaelt(text, "\n  1.998,16    2.002,65")) << text;
+    EXPECT_TRUE(enthaelt(text, "\n  2.007,16    2.011,65")) << text;
+    EXPECT_FALSE(enthaelt(text, "2.016,16")) << text;
+}
+
+TEST(CliTabelle, BereichAlsCsvUndPdf) {
+    Tempordner o;
+    const std::string ordner = " --ordner " + (o.pfad() / "a").string();
+    const auto csv = o.pfad() / "t.csv";
+    ASSERT_EQ(clilauf("tabelle --zeitraum monat --von 3996,16 --bis 4000 --format csv --aus " +
+                      csv.string() + ordner)
+                  .status,
+              0);
+    const std::string c = dateiinhalt(o.pfad(), "t.csv");
+    EXPECT_TRUE(enthaelt(c, "von DM;bis DM;LSt I;SolZ I;KiSt I;")) << c;
+    EXPECT_TRUE(enthaelt(c, "\r\n3996,16;4000,65;710,25;53,26;56,82;")) << c;
+    const auto pdf = o.pfad() / "t.pdf";
+    ASSERT_EQ(clilauf("tabelle --zeitraum jahr --von 0 --bis 54000 --format pdf --aus " +
+                      pdf.string() + ordner)
+                  .status,
+              0);
+    EXPECT_TRUE(dateiinhalt(o.pfad(), "t.pdf").starts_with("%PDF-"));
+}
+
+TEST(CliTabelle, BereichMitBisVorVonOderFalschemBetragIstEinAufruffehler) {
+    Tempordner o;
+    const std::string ordner = " --ordner " + (o.pfad() / "a").string();
+    Clilauf a = clilauf("tabelle --zeitraum monat --von 4000 --bis 2000" + ordner, true);
+    EXPECT_EQ(a.status, 2);
+    EXPECT_TRUE(enthaelt(a.aus, "Der Betrag \"bis\" liegt vor dem Betrag \"von\".")) << a.aus;
+    a = clilauf("tabelle --zeitraum monat --von 20x0 --bis 2000" + ordner, true);
+    EXPECT_EQ(a.status, 2);
+    EXPECT_TRUE(enthaelt(a.aus, "--von erwartet einen Betrag in DM")) << a.aus;
+}
+
+} // namespace lonvir::test
