@@ -4,6 +4,7 @@
 #include "engine/berechnen.h"
 #include "gui/farbenfenster.h"
 #include "gui/kvfenster.h"
+#include "gui/lstrtabfenster.h"
 #include "gui/passwortfenster.h"
 #include "gui/tarifefenster.h"
 #include "gui/texteditfenster.h"
@@ -201,6 +202,15 @@ void Tablettanbindung::formzeigen(const std::string& name) {
     if (name == "Form2" || name == "Form3") {
         if (uebersichtzeigen)
             uebersichtzeigen(name);
+        return;
+    }
+    if (name == "LStrTab") {
+        // The viewer keeps its inputs while it stays open; the menu and page 6 bring it up.
+        if (lstrtab_ == nullptr)
+            lstrtab_ = new LStrTabFenster(&f_);
+        lstrtab_->show();
+        lstrtab_->raise();
+        emit formGezeigt(lstrtab_);
         return;
     }
     if (name == "Form14") {

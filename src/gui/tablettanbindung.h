@@ -61,6 +61,7 @@ private:
     Menueziel ziel_;
     TablettFenster* ansicht_ = nullptr;
     bool neuzeichnen_ = false;
+    class LStrTabFenster* lstrtab_ = nullptr; // the table viewer, once opened
 };
 
 } // namespace lonvir::gui

@@ -169,6 +169,7 @@ std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
         seite("MLohnsteuer", "LSt", 6),
         seite("MSozialversicherung", "Soz", 29),
         seite("MZusatzversicherung", "ZVK", 8),
+        eintrag("MLstrTab", "LTab", Menueaktion::form, 0),
         menue("MTabelle", "GTab", tabellenthemen()),
         eintrag("MJahr", "Jahr", Menueaktion::form, 3),
         seite("MAmt", "Amt", 4),
@@ -245,7 +246,8 @@ void menueklick(Menueziel& z, const std::string& name) {
         // MJahr: page 39 marks the annual overview, shown with the current person.
         if (p->name == "MJahr")
             z.s.Tablettseite = 39;
-        z.formwunsch = "Form" + std::to_string(p->zahl);
+        // MLstrTab: the wage-tax table viewer, a form of its own name.
+        z.formwunsch = p->name == "MLstrTab" ? "LStrTab" : "Form" + std::to_string(p->zahl);
         break;
     case Menueaktion::keine:
         break;

@@ -33,8 +33,8 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     test::Umgebung u;
     const std::vector<Menuepunkt> leiste = hauptmenue(u.s);
     EXPECT_EQ(texte(leiste),
-              (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz", "ZVK", "GTab",
-                                        "Jahr", "Amt", "VKE", "Info", "?"}));
+              (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz", "ZVK", "LTab",
+                                        "GTab", "Jahr", "Amt", "VKE", "Info", "?"}));
     EXPECT_EQ(texte(leiste[0].punkte),
               (std::vector<std::string>{"Passwort ...", "Farbe ...", "Voreinstellungen ...",
                                         "Sozialversicherungsdaten ...", "KV_Beitragssätze ...",
@@ -57,23 +57,24 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     EXPECT_EQ(leiste[5].zahl, 6);
     EXPECT_EQ(leiste[6].zahl, 29);
     EXPECT_EQ(leiste[7].zahl, 8);
-    const Menuepunkt& gtab = leiste[8];
+    EXPECT_EQ(leiste[8].name, "MLstrTab");
+    const Menuepunkt& gtab = leiste[9];
     ASSERT_EQ(gtab.punkte.size(), 16u);
     EXPECT_EQ(gtab.punkte[0].text, "Beamte West ab 1/97");
     EXPECT_EQ(gtab.punkte[4].zahl, 70011);
     EXPECT_EQ(gtab.punkte[10].text, "Angestellte Ost B/L ab  1/97");
     EXPECT_EQ(gtab.punkte[15].zahl, 70259);
-    EXPECT_EQ(leiste[10].name, "MAmt");
-    EXPECT_EQ(leiste[10].zahl, 4);
-    const Menuepunkt& info = leiste[12];
+    EXPECT_EQ(leiste[11].name, "MAmt");
+    EXPECT_EQ(leiste[11].zahl, 4);
+    const Menuepunkt& info = leiste[13];
     EXPECT_EQ(texte(info.punkte),
               (std::vector<std::string>{"Überreicht durch", "Über LONVIR97",
                                         "In diesem Update ist neu:", "Update", "Beihilfe",
                                         "Vorschläge", "Dankeschön", "Geschenke"}));
-    EXPECT_EQ(leiste[13].name, "MHilfe");
-    EXPECT_EQ(leiste[13].aktion, Menueaktion::zeilenhilfe);
-    EXPECT_EQ(leiste[13].punkte[0].zahl, 20000);
-    EXPECT_EQ(leiste[13].punkte[1].zahl, 1000);
+    EXPECT_EQ(leiste[14].name, "MHilfe");
+    EXPECT_EQ(leiste[14].aktion, Menueaktion::zeilenhilfe);
+    EXPECT_EQ(leiste[14].punkte[0].zahl, 20000);
+    EXPECT_EQ(leiste[14].punkte[1].zahl, 1000);
 }
 
 TEST(Hauptmenue, JahrZeigtDieJahresuebersichtUndVkeOeffnetSeite66) {
@@ -216,6 +217,16 @@ TEST(Hauptmenue, JahrUndLoeschenUeberDasMenue) {
     EXPECT_EQ(m.u.s.Tablettseite, 22);
     menueklick(m.ziel, "MBeenden");
     EXPECT_TRUE(m.ziel.beendet);
+}
+
+} // namespace lonvir
+
+namespace lonvir {
+
+TEST(Hauptmenue, LTabZeigtDieLohnsteuertabelle) {
+    Menueumgebung m;
+    menueklick(m.ziel, "MLstrTab");
+    EXPECT_EQ(m.ziel.formwunsch, std::optional<std::string>("LStrTab"));
 }
 
 } // namespace lonvir
