@@ -5,6 +5,7 @@
 
 #include "core/feld.h"
 #include "core/hilfe.h"
+#include "core/seitenoeffner.h"
 #include "start/sitzung.h"
 
 #include <functional>
@@ -119,7 +120,7 @@ struct Tablettfokus {
 class Tablett;
 using Seitenbauer = std::function<void(Tablett&)>;
 
-class Tablett {
+class Tablett : public Seitenoeffner {
 public:
     Tablett(Sitzung& s, Form1lage& form, Hilfe* hilfe = nullptr);
     // One panel per main form: its builders keep a pointer to it.
@@ -164,6 +165,8 @@ public:
 
     // --- opening and clearing
     void tablettoeffnen();
+    // The menu's way in: the hourglass on, `Tablettseite` set, the page opened.
+    void seiteoeffnen(int nummer) override;
     void tablettleeren();
     // The driver's refresh of the open page after a run (pages 6, 8, 35, and the
     // social-insurance builders under 7, which no menu sets).

@@ -100,9 +100,7 @@ void seiteoeffnen(Menueziel& z, int nummer) {
                 "Die Darstellung der Teilzeitbeträge ist nur bei einzelnen Monaten möglich.");
         return;
     }
-    z.tablett.sanduhr = true;
-    z.s.Tablettseite = static_cast<std::int16_t>(nummer);
-    z.tablett.tablettoeffnen();
+    z.tablett.seiteoeffnen(nummer);
 }
 
 void zeilenhilfezeigen(Menueziel& z) {

@@ -1,5 +1,6 @@
 // The menu bar of Form1: order, captions, the year entries, and what the clicks do.
 #include "formhilfe.h"
+#include "panels/tablett.h"
 #include "screen/hauptmenue.h"
 #include "start/start.h"
 #include "testhilfe.h"
