@@ -6,6 +6,7 @@
 #include "core/feld.h"
 #include "core/hilfe.h"
 #include "core/seitenoeffner.h"
+#include "panels/hauptbildauftrag.h"
 #include "start/sitzung.h"
 
 #include <functional>
@@ -46,6 +47,8 @@ struct Tablettliste {
     std::vector<std::string> liste;
     int position = -1;
     int vordergrund = 0;
+    int hintergrund = 15;
+    double schriftgroesse = 8.25;
 };
 
 // A label of the array zeile: a row caption.
@@ -163,6 +166,18 @@ public:
     Feld<std::int32_t, 0, 27> umlagewert;
     // The text z(row) shows on the main screen; the screen model supplies it.
     std::function<std::string(int)> zeilenname;
+    // What the pages that keep the tables ask of the main screen; without one, the core's.
+    Hauptbildauftrag auftrag;
+    // Page 22: the search text, the hits as list positions at 1 to 7 (shown in zeile(10 + i)),
+    // and their number.
+    std::string suchtext;
+    Feld<std::int16_t, 0, 8> trefferliste;
+    std::int16_t trefferzahl = 0;
+    // Page 4: the cost centre chosen, 35 characters; blank when all staff are summed.
+    std::string kostenstellenauswahl = std::string(35, ' ');
+    // The range of the text table the text editor opens on; the entries of "Txt" set it.
+    std::int16_t textvon = 1;
+    std::int16_t textbis = 6000;
     // What the settings pages ask of the main screen. Without a window the refresh of the
     // left column loads the month with its run, the preset mode only keeps its range, and
     // the password form is only noted.
@@ -177,6 +192,11 @@ public:
     void tablettoeffnen();
     // The menu's way in: the hourglass on, `Tablettseite` set, the page opened.
     void seiteoeffnen(int nummer) override;
+    void formwuenschen(const std::string& name) override { formwunsch = name; }
+    void textbereichsetzen(std::int16_t von, std::int16_t bis) override {
+        textvon = von;
+        textbis = bis;
+    }
     void tablettleeren();
     // The driver's refresh of the open page after a run (pages 6, 8, 35, and the
     // social-insurance builders under 7, which no menu sets).
