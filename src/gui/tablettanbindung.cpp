@@ -2,6 +2,7 @@
 #include "gui/tablettanbindung.h"
 
 #include "engine/berechnen.h"
+#include "gui/druckauftrag.h"
 #include "gui/farbenfenster.h"
 #include "gui/kvfenster.h"
 #include "gui/passwortfenster.h"
@@ -244,6 +245,11 @@ void Tablettanbindung::menueklick(const std::string& name) {
         const std::string form = *ziel_.formwunsch;
         ziel_.formwunsch.reset();
         formzeigen(form);
+    }
+    if (ziel_.druckwunsch) {
+        const std::string bericht = *ziel_.druckwunsch;
+        ziel_.druckwunsch.reset();
+        ausfuehren([&] { druckauftrag(f_, s_, bericht); });
     }
     // A change of year may check and enable other entries: the bar is built again once
     // this click is over.

@@ -31,8 +31,9 @@ struct Menueumgebung {
 TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     test::Umgebung u;
     const std::vector<Menuepunkt> leiste = hauptmenue(u.s);
-    EXPECT_EQ(texte(leiste), (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz",
-                                                       "ZVK", "GTab", "Amt", "Info", "?"}));
+    EXPECT_EQ(texte(leiste),
+              (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz", "ZVK", "GTab",
+                                        "Druck", "Amt", "Info", "?"}));
     EXPECT_EQ(texte(leiste[0].punkte),
               (std::vector<std::string>{"Passwort ...", "Farbe ...", "Voreinstellungen ...",
                                         "Sozialversicherungsdaten ...", "KV_Beitragssätze ...",
@@ -61,17 +62,18 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     EXPECT_EQ(gtab.punkte[4].zahl, 70011);
     EXPECT_EQ(gtab.punkte[10].text, "Angestellte Ost B/L ab  1/97");
     EXPECT_EQ(gtab.punkte[15].zahl, 70259);
-    EXPECT_EQ(leiste[9].name, "MAmt");
-    EXPECT_EQ(leiste[9].zahl, 4);
-    const Menuepunkt& info = leiste[10];
+    EXPECT_EQ(leiste[9].name, "MDrucken");
+    EXPECT_EQ(leiste[10].name, "MAmt");
+    EXPECT_EQ(leiste[10].zahl, 4);
+    const Menuepunkt& info = leiste[11];
     EXPECT_EQ(texte(info.punkte),
               (std::vector<std::string>{"Überreicht durch", "Über LONVIR97",
                                         "In diesem Update ist neu:", "Update", "Beihilfe",
                                         "Vorschläge", "Dankeschön", "Geschenke"}));
-    EXPECT_EQ(leiste[11].name, "MHilfe");
-    EXPECT_EQ(leiste[11].aktion, Menueaktion::zeilenhilfe);
-    EXPECT_EQ(leiste[11].punkte[0].zahl, 20000);
-    EXPECT_EQ(leiste[11].punkte[1].zahl, 1000);
+    EXPECT_EQ(leiste[12].name, "MHilfe");
+    EXPECT_EQ(leiste[12].aktion, Menueaktion::zeilenhilfe);
+    EXPECT_EQ(leiste[12].punkte[0].zahl, 20000);
+    EXPECT_EQ(leiste[12].punkte[1].zahl, 1000);
 }
 
 TEST(Hauptmenue, TarifeintraegeOeffnenDieSeiten54Bis57Und58Bis60Und62) {
@@ -203,4 +205,33 @@ TEST(Hauptmenue, JahrUndLoeschenUeberDasMenue) {
     EXPECT_TRUE(m.ziel.beendet);
 }
 
+} // namespace lonvir
+
+namespace lonvir {
+namespace {
+
+TEST(Hauptmenue, DruckmenueInDerReihenfolgeUndSeinKlickWuenschtDenDruck) {
+    test::Umgebung u;
+    const std::optional<Menuepunkt> druck = menuepunkt(u.s, "MDrucken");
+    ASSERT_TRUE(druck);
+    EXPECT_EQ(druck->text, "Druck");
+    std::vector<std::string> namen;
+    for (const Menuepunkt& p : druck->punkte) {
+        namen.push_back(p.name);
+        EXPECT_EQ(p.aktion, Menueaktion::drucken);
+    }
+    EXPECT_EQ(namen, (std::vector<std::string>{"MGraphik", "Mlinksbrutto", "Mlinksnetto",
+                                               "MlinksAG", "MLst"}));
+    EXPECT_EQ(
+        texte(druck->punkte),
+        (std::vector<std::string>{"Gehaltsberechnung als Graphik", "Gehaltsberechnung nur brutto",
+                                  "Gehaltsberechnung brutto/netto",
+                                  "Gehaltsberechnung mit AG-Aufw.", "LSt, Soz, ZVK drucken"}));
+    Menueumgebung m;
+    menueklick(m.ziel, "Mlinksnetto");
+    EXPECT_EQ(m.ziel.druckwunsch, std::optional<std::string>("Mlinksnetto"));
+    EXPECT_FALSE(m.tablett.sichtbar);
+}
+
+} // namespace
 } // namespace lonvir
