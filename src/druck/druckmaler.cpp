@@ -105,7 +105,10 @@ int dokumentemalen(QPagedPaintDevice& geraet, const std::vector<Druckdokument>& 
     for (std::size_t n = 0; n < seiten.size(); ++n) {
         const Druckseite& seite = seiten[n];
         if (n > 0) {
-            geraet.setPageLayout(seitenlage(seite.ausrichtung));
+            // A printer takes no new layout while it prints: only a change of orientation
+            // asks for one (the PDF writer takes it for the next page).
+            if (seite.ausrichtung != seiten[n - 1].ausrichtung)
+                geraet.setPageLayout(seitenlage(seite.ausrichtung));
             geraet.newPage();
         }
         const Druckdokument& dok = dokumente[seite.dokument];

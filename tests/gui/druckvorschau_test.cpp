@@ -1,6 +1,7 @@
 // The print entries of the window under the offscreen platform: the statement of the sample
 // BAT employee opens in the preview with one page bearing her name, the annex in landscape,
 // the picture of the window with its advice afterwards; Qt's own dialogs speak German.
+#include "core/textdrucker.h"
 #include "druck/druckfenster.h"
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
@@ -85,9 +86,8 @@ struct Druckfenster {
 bool enthaelt(const std::vector<Druckdokument>& dokumente, const std::string& text) {
     for (const Druckdokument& d : dokumente)
         for (const Druckzeile& z : d.zeilen)
-            for (const Druckstueck& s : z.stuecke)
-                if (s.text.find(text) != std::string::npos)
-                    return true;
+            if (textzeile(z).find(text) != std::string::npos)
+                return true;
     return false;
 }
 
