@@ -10,6 +10,9 @@ namespace {
 
 constexpr int sonstigebezuege = 13; // the wage-tax sheet's heading of one-off pay
 
+// The program-wide mark of the annex being built.
+std::int16_t laufenderdruckmodus = 0;
+
 // The entries of the social-insurance and pension sheets that hold only a filler on paper.
 void fuellerleeren(Druckspalten& d) {
     d(2, 27).clear();
@@ -28,6 +31,10 @@ std::string spaltentext(const std::string& text, bool voll) {
 }
 
 } // namespace
+
+std::int16_t druckmodus() {
+    return laufenderdruckmodus;
+}
 
 Druckspalten druckspaltenfuellen(Sitzung& s, const Arbeitsblaetter& blaetter) {
     // 3. and 5. or 6.
@@ -70,12 +77,11 @@ void abzuegedrucken(Sitzung& s, const Schirmtexte& bild, const Arbeitsblaetter& 
     d.Orientation(querformat);
     // Reset however the sheets end: the panel's builders look at it.
     struct Druckmodus {
-        Sitzung& s;
-        explicit Druckmodus(Sitzung& sitzung) : s(sitzung) { s.druckmodus = 41; }
-        ~Druckmodus() { s.druckmodus = 0; }
+        Druckmodus() { laufenderdruckmodus = 41; }
+        ~Druckmodus() { laufenderdruckmodus = 0; }
         Druckmodus(const Druckmodus&) = delete;
         Druckmodus& operator=(const Druckmodus&) = delete;
-    } druckmodus(s);
+    } modus;
     d.FontName("courier new");
     d.FontSize(12);
     d.FontBold(true);

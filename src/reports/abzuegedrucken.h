@@ -15,6 +15,10 @@ namespace lonvir {
 // 2 to 5 social insurance and supplementary pension.
 using Arbeitsblaetter = std::function<Druckspalten(bool sozialversicherung)>;
 
+// 41 while the annex copies the panel's sheets, 0 otherwise: the panel's builders skip their
+// screen work when they see it.
+[[nodiscard]] std::int16_t druckmodus();
+
 // Prints the annex. The refusal for the year looks at row 15, whose list has seven entries,
 // so it never fires (row 20 holds the month); it stays so. `druckmodus` is 41 while the
 // sheets are copied and 0 afterwards. Civil servants (staff classes below 5) get the wage-tax

@@ -145,7 +145,6 @@ struct Sitzung {
     std::int16_t Neuberechnung = 0;
     std::int16_t aenderungscode = 0;
     std::int16_t bruttomodus = 0;
-    std::int16_t druckmodus = 0; // 41 while the deduction annex copies the panel's sheets
     std::int16_t folgelauf = 0;
     std::int16_t jahreslauf = 0;
     std::int16_t jahressperre = 0; // set while the year view stands

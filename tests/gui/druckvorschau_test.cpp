@@ -6,6 +6,7 @@
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
 #include "gui/tablettanbindung.h"
+#include "reports/abzuegedrucken.h"
 #include "start/start.h"
 #include "testhilfe.h"
 
@@ -113,7 +114,7 @@ TEST(Druckvorschau, DieAnlageImQuerformat) {
     EXPECT_EQ(g.seiten, 2);
     EXPECT_TRUE(enthaelt(g.dokumente, "A N L A G E  zu :  JANUAR 1997 für Schneider, Petra"));
     EXPECT_EQ(g.ausrichtung, QPageLayout::Landscape);
-    EXPECT_EQ(w.s.druckmodus, 0);
+    EXPECT_EQ(druckmodus(), 0);
 }
 
 TEST(Druckvorschau, DasBildDesFenstersUndDanachDerHinweis) {

@@ -44,7 +44,7 @@ struct Anlage : ::testing::Test {
             u.s, b,
             [this](bool sv) {
                 aufrufe.push_back(sv ? 1 : 0);
-                druckmodi.push_back(u.s.druckmodus);
+                druckmodi.push_back(druckmodus());
                 return probeblaetter(sv);
             },
             d);
@@ -62,7 +62,7 @@ TEST_F(Anlage, KopfQuerformatUndTitel) {
     const Druckdokument d = drucken();
     EXPECT_EQ(d.ausrichtung, querformat);
     EXPECT_EQ(druckmodi, std::vector<int>{41});
-    EXPECT_EQ(u.s.druckmodus, 0);
+    EXPECT_EQ(druckmodus(), 0);
     EXPECT_EQ(zeile(d, 0), "");
     EXPECT_EQ(zeile(d, 1), "");
     EXPECT_EQ(zeile(d, 2), "A N L A G E  zu :  MÄRZ 1997 für Muster, Max");
