@@ -1,7 +1,10 @@
-// drucken brutto|netto|ag: the pay statement of one person, or of every person of the layer,
-// for a month, each loaded and refreshed as a click on the person does it.
+// drucken brutto|netto|ag|abzuege: the pay statement or the deduction annex of one person, or of
+// every person of the layer, for a month, each loaded and refreshed as a click on the person does
+// it.
 #include "cli/druckberichte.h"
 
+#include "panels/arbeitsblaetter.h"
+#include "reports/abzuegedrucken.h"
 #include "reports/gehaltdrucken.h"
 #include "screen/form1.h"
 #include "screen/schirmtexte.h"
@@ -61,12 +64,28 @@ Druckbericht gehaltsbericht(const char* name, const char* titel, int statementfo
     return b;
 }
 
+Druckbericht abzuegebericht() {
+    Druckbericht b;
+    b.name = "abzuege";
+    b.titel = "LSt, Soz, ZVK";
+    b.optionen = {"person", "monat"};
+    b.drucken = [](Kontext& k, Drucker& d) {
+        jedePerson(k, [&](Form1& form) {
+            abzuegedrucken(
+                k.s, schirmtexte(form.bild),
+                [&k](bool sv) { return arbeitsblaetterkopieren(k.s, sv); }, d);
+        });
+    };
+    return b;
+}
+
 const Druckberichtanmeldung brutto(gehaltsbericht("brutto", "Gehaltsberechnung nur brutto",
                                                   nurbrutto));
 const Druckberichtanmeldung netto(gehaltsbericht("netto", "Gehaltsberechnung brutto/netto",
                                                  bruttonetto));
 const Druckberichtanmeldung ag(gehaltsbericht("ag", "Gehaltsberechnung mit AG-Aufw.",
                                               mitarbeitgeber));
+const Druckberichtanmeldung abzuege(abzuegebericht());
 
 } // namespace
 

@@ -49,12 +49,17 @@ void Spaltendrucker::drucken(std::span<const Druckteil> teile, Zeilenende ende) 
     }
 }
 
+void Spaltendrucker::PrintForm() {
+    dokument_.formbild = true;
+}
+
 void Spaltendrucker::EndDoc() {
     if (zeileBegonnen_ && !zeile_.stuecke.empty()) {
         zeileschliessen();
     }
     Druckdokument fertig = std::move(dokument_);
-    dokument_ = Druckdokument{fertig.ausrichtung, {}};
+    dokument_ = Druckdokument{};
+    dokument_.ausrichtung = fertig.ausrichtung;
     zeile_ = Druckzeile{};
     zeileBegonnen_ = false;
     x_ = 0;

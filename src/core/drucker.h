@@ -37,6 +37,9 @@ public:
     virtual void FontBold(bool fett) = 0;
     // The items in order; `Print({})` prints an empty line.
     virtual void drucken(std::span<const Druckteil> teile, Zeilenende ende) = 0;
+    // The picture of the main window on the page, as the platform's print-form operation
+    // puts it there; the face that paints pages brings the picture.
+    virtual void PrintForm() = 0;
     // Sends the document; called once at the end of every report.
     virtual void EndDoc() = 0;
 
@@ -68,6 +71,7 @@ struct Druckzeile {
 struct Druckdokument {
     int ausrichtung = hochformat;
     std::vector<Druckzeile> zeilen;
+    bool formbild = false; // the page holds the picture of the main window
 };
 
 // The printer's column arithmetic, shared by every face: a fixed-pitch font advances 0.6 of
@@ -82,6 +86,7 @@ public:
     void FontSize(float punkte) override;
     void FontBold(bool fett) override;
     void drucken(std::span<const Druckteil> teile, Zeilenende ende) override;
+    void PrintForm() override;
     void EndDoc() override;
 
     [[nodiscard]] const std::string& schrift() const { return schrift_; }

@@ -38,7 +38,7 @@ std::vector<Druckseite> seitenumbruch(const std::vector<Druckdokument>& dokument
             }
             y += h;
         }
-        if (von < dok.zeilen.size())
+        if (von < dok.zeilen.size() || (dok.zeilen.empty() && dok.formbild))
             seiten.push_back({d, von, dok.zeilen.size(), dok.ausrichtung});
     }
     return seiten;

@@ -45,7 +45,8 @@ struct Druckseite {
 };
 
 // Each document begins on a new page; a line that does not fit below the last goes to the
-// next page. A document without lines gives no page. The page heights are the printable
+// next page. A document without lines gives no page, unless it holds the picture of the main
+// window, which stands on a page of its own. The page heights are the printable
 // heights in points of portrait and landscape paper.
 [[nodiscard]] std::vector<Druckseite> seitenumbruch(const std::vector<Druckdokument>& dokumente,
                                                     double hochhoehe, double querhoehe);

@@ -15,20 +15,21 @@
 namespace lonvir::druck {
 
 bool druckerdrucken(QWidget* eltern, const std::vector<Druckdokument>& dokumente,
-                    const QString& titel) {
+                    const QString& titel, const QImage& formbild) {
     QPrinter drucker(QPrinter::HighResolution);
     drucker.setDocName(titel);
     QPrintDialog dialog(&drucker, eltern);
     dialog.setWindowTitle(QStringLiteral("Drucken"));
     if (dialog.exec() != QDialog::Accepted)
         return false;
-    dokumentemalen(drucker, dokumente);
+    dokumentemalen(drucker, dokumente, formbild);
     return true;
 }
 
 Druckvorschau::Druckvorschau(std::vector<Druckdokument> dokumente, const QString& titel,
-                             QWidget* eltern)
-    : QPrintPreviewDialog(eltern), dokumente_(std::move(dokumente)), titel_(titel) {
+                             QWidget* eltern, QImage formbild)
+    : QPrintPreviewDialog(eltern), dokumente_(std::move(dokumente)), titel_(titel),
+      formbild_(std::move(formbild)) {
     setWindowTitle(QStringLiteral("Druckvorschau – ") + titel);
     printer()->setDocName(titel);
     connect(this, &QPrintPreviewDialog::paintRequested, this, &Druckvorschau::malen);
@@ -44,7 +45,7 @@ Druckvorschau::Druckvorschau(std::vector<Druckdokument> dokumente, const QString
 Druckvorschau::~Druckvorschau() = default;
 
 void Druckvorschau::malen(QPrinter* drucker) {
-    seiten_ = dokumentemalen(*drucker, dokumente_);
+    seiten_ = dokumentemalen(*drucker, dokumente_, formbild_);
 }
 
 void Druckvorschau::alspdfspeichern() {
@@ -54,7 +55,7 @@ void Druckvorschau::alspdfspeichern() {
     if (datei.isEmpty())
         return;
     try {
-        pdfschreiben(datei.toStdString(), dokumente_, titel_);
+        pdfschreiben(datei.toStdString(), dokumente_, titel_, formbild_);
     } catch (const Dateifehler& f) {
         QMessageBox::warning(this, QStringLiteral("Als PDF speichern"),
                              QString::fromUtf8(f.what()));

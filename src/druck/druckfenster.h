@@ -4,6 +4,7 @@
 
 #include "core/drucker.h"
 
+#include <QImage>
 #include <QPrintPreviewDialog>
 #include <QString>
 
@@ -16,15 +17,16 @@ namespace lonvir::druck {
 
 // Asks for a printer in Qt's print dialog and prints there; false when the user cancels.
 bool druckerdrucken(QWidget* eltern, const std::vector<Druckdokument>& dokumente,
-                    const QString& titel);
+                    const QString& titel, const QImage& formbild = QImage());
 
 // The preview: pages as they will come out. Its tool bar prints (Qt's print dialog, which
 // also prints to a PDF file) and saves a PDF directly.
 class Druckvorschau : public QPrintPreviewDialog {
     Q_OBJECT
 public:
+    // `formbild`: the picture of the main window, for documents that print it.
     Druckvorschau(std::vector<Druckdokument> dokumente, const QString& titel,
-                  QWidget* eltern = nullptr);
+                  QWidget* eltern = nullptr, QImage formbild = QImage());
     ~Druckvorschau() override;
 
     [[nodiscard]] const std::vector<Druckdokument>& dokumente() const { return dokumente_; }
@@ -39,6 +41,7 @@ private:
 
     std::vector<Druckdokument> dokumente_;
     QString titel_;
+    QImage formbild_;
     int seiten_ = 0;
 };
 

@@ -72,7 +72,26 @@ QFont druckschrift(std::string_view name, float groesse, bool fett) {
     return f;
 }
 
-int dokumentemalen(QPagedPaintDevice& geraet, const std::vector<Druckdokument>& dokumente) {
+namespace {
+
+// The picture in points: a screen pixel is 1/96 inch at 100 %, as the window was drawn.
+void bildmalen(QPainter& p, const QImage& bild, const Druckbereich& bereich, double dpp) {
+    if (bild.isNull())
+        return;
+    const double proPixel =
+        72.0 / (bild.dotsPerMeterX() > 0 ? bild.dotsPerMeterX() * 0.0254 : 96.0);
+    double breite = bild.width() * proPixel;
+    double hoehe = bild.height() * proPixel;
+    const double mass = std::min({1.0, bereich.breite / breite, bereich.hoehe / hoehe});
+    breite *= mass;
+    hoehe *= mass;
+    p.drawImage(QRectF(0, 0, breite * dpp, hoehe * dpp), bild);
+}
+
+} // namespace
+
+int dokumentemalen(QPagedPaintDevice& geraet, const std::vector<Druckdokument>& dokumente,
+                   const QImage& formbild) {
     const Druckbereich hoch = a4bereich(hochformat);
     const Druckbereich quer = a4bereich(querformat);
     const std::vector<Druckseite> seiten = seitenumbruch(dokumente, hoch.hoehe, quer.hoehe);
@@ -86,10 +105,15 @@ int dokumentemalen(QPagedPaintDevice& geraet, const std::vector<Druckdokument>& 
     for (std::size_t n = 0; n < seiten.size(); ++n) {
         const Druckseite& seite = seiten[n];
         if (n > 0) {
-            geraet.setPageLayout(seitenlage(seite.ausrichtung));
+            // A printer takes no new layout while it prints: only a change of orientation
+            // asks for one (the PDF writer takes it for the next page).
+            if (seite.ausrichtung != seiten[n - 1].ausrichtung)
+                geraet.setPageLayout(seitenlage(seite.ausrichtung));
             geraet.newPage();
         }
         const Druckdokument& dok = dokumente[seite.dokument];
+        if (dok.formbild && seite.von == 0)
+            bildmalen(p, formbild, seite.ausrichtung == querformat ? quer : hoch, dpp);
         double y = 0;
         for (std::size_t z = seite.von; z < seite.bis; ++z) {
             const Druckzeile& zeile = dok.zeilen[z];

@@ -5,6 +5,7 @@
 #include "core/drucker.h"
 
 #include <QFont>
+#include <QImage>
 #include <QString>
 
 #include <string_view>
@@ -20,7 +21,10 @@ namespace lonvir::druck {
 [[nodiscard]] QFont druckschrift(std::string_view name, float groesse, bool fett);
 
 // Sets A4 and the margins, then paints every document; returns the number of pages. The
-// device must not be painted on yet.
-int dokumentemalen(QPagedPaintDevice& geraet, const std::vector<Druckdokument>& dokumente);
+// device must not be painted on yet. A document that holds the picture of the main window
+// gets `formbild` at the top left, at its size on the screen, made smaller where the page is
+// too small for it.
+int dokumentemalen(QPagedPaintDevice& geraet, const std::vector<Druckdokument>& dokumente,
+                   const QImage& formbild = QImage());
 
 } // namespace lonvir::druck

@@ -13,7 +13,8 @@
 
 namespace lonvir::druck {
 
-QByteArray pdferzeugen(const std::vector<Druckdokument>& dokumente, const QString& titel) {
+QByteArray pdferzeugen(const std::vector<Druckdokument>& dokumente, const QString& titel,
+                       const QImage& formbild) {
     QByteArray inhalt;
     QBuffer puffer(&inhalt);
     puffer.open(QIODevice::WriteOnly);
@@ -22,15 +23,15 @@ QByteArray pdferzeugen(const std::vector<Druckdokument>& dokumente, const QStrin
         pdf.setResolution(1200);
         pdf.setTitle(titel);
         pdf.setCreator(QStringLiteral("Lonvir 97"));
-        dokumentemalen(pdf, dokumente);
+        dokumentemalen(pdf, dokumente, formbild);
     }
     puffer.close();
     return inhalt;
 }
 
 void pdfschreiben(const std::filesystem::path& ziel, const std::vector<Druckdokument>& dokumente,
-                  const QString& titel) {
-    const QByteArray inhalt = pdferzeugen(dokumente, titel);
+                  const QString& titel, const QImage& formbild) {
+    const QByteArray inhalt = pdferzeugen(dokumente, titel, formbild);
     dateiersetzen(ziel,
                   std::string_view(inhalt.constData(), static_cast<std::size_t>(inhalt.size())));
 }

@@ -4,6 +4,7 @@
 #include "core/drucker.h"
 
 #include <QByteArray>
+#include <QImage>
 #include <QString>
 
 #include <filesystem>
@@ -16,10 +17,10 @@ namespace lonvir::druck {
 
 // The bytes of a PDF of the documents; `titel` goes into the document's properties.
 [[nodiscard]] QByteArray pdferzeugen(const std::vector<Druckdokument>& dokumente,
-                                     const QString& titel);
+                                     const QString& titel, const QImage& formbild = QImage());
 // The PDF written to a temporary name beside `ziel`, then renamed; a failure names `ziel`.
 void pdfschreiben(const std::filesystem::path& ziel, const std::vector<Druckdokument>& dokumente,
-                  const QString& titel);
+                  const QString& titel, const QImage& formbild = QImage());
 
 // Fonts need an application object. Outside the window (the command line, a test) this
 // provides one on the offscreen platform for as long as it lives; inside it does nothing.

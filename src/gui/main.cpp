@@ -1,6 +1,7 @@
 // lonvir97: the start form, the session on the working folder, the main form Form1.
 #include "core/laufzeitfehler.h"
 #include "core/programmende.h"
+#include "gui/deutsch.h"
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
 #include "gui/passwortfenster.h"
@@ -148,6 +149,7 @@ void fotografieren(lonvir::gui::Form1Fenster& fenster, lonvir::gui::Tablettanbin
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("lonvir97"));
+    lonvir::gui::qtdeutsch(app);
     const Aufruf aufruf = aufrufLesen(app);
 
     lonvir::gui::HilfeFenster hilfe(aufruf.ordner);

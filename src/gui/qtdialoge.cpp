@@ -1,7 +1,6 @@
 // The core's message boxes as QMessageBox, its help contexts as pages of the folder.
 #include "gui/qtdialoge.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -63,14 +62,6 @@ Knopf knopfVon(int gedrueckt) {
 Knopf QtDialoge::zeigen(const Meldung& meldung) {
     QMessageBox box(symbolVon(meldung.symbol), QString::fromStdString(meldung.titel),
                     QString::fromStdString(meldung.text), knoepfeVon(meldung.knoepfe), eltern_);
-    const std::pair<QMessageBox::StandardButton, const char*> deutsch[] = {
-        {QMessageBox::Yes, "Ja"},
-        {QMessageBox::No, "Nein"},
-        {QMessageBox::Cancel, "Abbrechen"},
-        {QMessageBox::Retry, "Wiederholen"}};
-    for (const auto& [knopf, text] : deutsch)
-        if (QAbstractButton* b = box.button(knopf))
-            b->setText(QString::fromUtf8(text));
     // The hourglass of the running handler gives way to the arrow while the box is up.
     QApplication::setOverrideCursor(Qt::ArrowCursor);
     const int gedrueckt = box.exec();

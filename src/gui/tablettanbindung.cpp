@@ -3,6 +3,7 @@
 
 #include "core/programmende.h"
 #include "engine/berechnen.h"
+#include "gui/druckauftrag.h"
 #include "gui/farbenfenster.h"
 #include "gui/kvfenster.h"
 #include "gui/lstrtabfenster.h"
@@ -267,6 +268,11 @@ void Tablettanbindung::menueklick(const std::string& name) {
         const std::string form = *ziel_.formwunsch;
         ziel_.formwunsch.reset();
         formzeigen(form);
+    }
+    if (ziel_.druckwunsch) {
+        const std::string bericht = *ziel_.druckwunsch;
+        ziel_.druckwunsch.reset();
+        ausfuehren([&] { druckauftrag(f_, s_, bericht); });
     }
     // A change of year may check and enable other entries: the bar is built again once
     // this click is over.

@@ -106,6 +106,20 @@ std::vector<Menuepunkt> infothemen() {
     };
 }
 
+// The print entries; the statutory statements add theirs behind these.
+std::vector<Menuepunkt> druckpunkte() {
+    const auto punkt = [](const char* name, const char* text) {
+        return eintrag(name, text, Menueaktion::drucken, 0);
+    };
+    return {
+        punkt("MGraphik", "Gehaltsberechnung als Graphik"),
+        punkt("Mlinksbrutto", "Gehaltsberechnung nur brutto"),
+        punkt("Mlinksnetto", "Gehaltsberechnung brutto/netto"),
+        punkt("MlinksAG", "Gehaltsberechnung mit AG-Aufw."),
+        punkt("MLst", "LSt, Soz, ZVK drucken"),
+    };
+}
+
 const Menuepunkt* suchen(const std::vector<Menuepunkt>& punkte, const std::string& name) {
     for (const Menuepunkt& p : punkte) {
         if (p.name == name)
@@ -169,6 +183,7 @@ std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
         seite("MZusatzversicherung", "ZVK", 8),
         eintrag("MLstrTab", "LTab", Menueaktion::form, 0),
         menue("MTabelle", "GTab", tabellenthemen()),
+        menue("MDrucken", "Druck", druckpunkte()),
         eintrag("MJahr", "Jahr", Menueaktion::form, 3),
         seite("MAmt", "Amt", 4),
         seite("MVKE", "VKE", 66),
@@ -245,6 +260,9 @@ void menueklick(Menueziel& z, const std::string& name) {
             z.s.Tablettseite = 39;
         // MLstrTab: the wage-tax table viewer, a form of its own name.
         z.formwunsch = p->name == "MLstrTab" ? "LStrTab" : "Form" + std::to_string(p->zahl);
+        break;
+    case Menueaktion::drucken:
+        z.druckwunsch = p->name;
         break;
     case Menueaktion::keine:
         break;

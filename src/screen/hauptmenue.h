@@ -23,6 +23,7 @@ enum class Menueaktion {
     form,             // shows a form of its own; the entry's name says which (MFarben: Form14)
     kv,               // shows the form KV of the health-insurance rates
     texte,            // shows Textedit on the range of the entry (the menu "Txt")
+    drucken,          // prints the report the entry names, shown in the preview first
 };
 
 struct Menuepunkt {
@@ -54,6 +55,8 @@ struct Menueziel {
     bool beendet = false;
     // The form a click asks the window to show, e.g. "Form14".
     std::optional<std::string> formwunsch = std::nullopt;
+    // The print entry a click chose (e.g. "Mlinksnetto"); the window prints it.
+    std::optional<std::string> druckwunsch = std::nullopt;
 };
 
 // The click on the entry `name`; an unknown name does nothing.

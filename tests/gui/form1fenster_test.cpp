@@ -1,6 +1,7 @@
 // The window Form1 without a display: keys and clicks on its widgets reach the model, the
 // store and the rows on the screen.
 #include "core/betragstext.h"
+#include "gui/deutsch.h"
 #include "gui/form1fenster.h"
 #include "start/satzzugriff.h"
 #include "start/start.h"
@@ -194,6 +195,7 @@ TEST(Form1Fenster, SchriftenFolgenDerFenstergroesse) {
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
+    lonvir::gui::qtdeutsch(app);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -35,7 +35,7 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     const std::vector<Menuepunkt> leiste = hauptmenue(u.s);
     EXPECT_EQ(texte(leiste),
               (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz", "ZVK", "LTab",
-                                        "GTab", "Jahr", "Amt", "VKE", "Info", "?"}));
+                                        "GTab", "Druck", "Jahr", "Amt", "VKE", "Info", "?"}));
     EXPECT_EQ(texte(leiste[0].punkte),
               (std::vector<std::string>{"Passwort ...", "Farbe ...", "Voreinstellungen ...",
                                         "Sozialversicherungsdaten ...", "KV_Beitragssätze ...",
@@ -65,17 +65,18 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     EXPECT_EQ(gtab.punkte[4].zahl, 70011);
     EXPECT_EQ(gtab.punkte[10].text, "Angestellte Ost B/L ab  1/97");
     EXPECT_EQ(gtab.punkte[15].zahl, 70259);
-    EXPECT_EQ(leiste[11].name, "MAmt");
-    EXPECT_EQ(leiste[11].zahl, 4);
-    const Menuepunkt& info = leiste[13];
+    EXPECT_EQ(leiste[10].name, "MDrucken");
+    EXPECT_EQ(leiste[12].name, "MAmt");
+    EXPECT_EQ(leiste[12].zahl, 4);
+    const Menuepunkt& info = leiste[14];
     EXPECT_EQ(texte(info.punkte),
               (std::vector<std::string>{"Überreicht durch", "Über LONVIR97",
                                         "In diesem Update ist neu:", "Update", "Beihilfe",
                                         "Vorschläge", "Dankeschön", "Geschenke"}));
-    EXPECT_EQ(leiste[14].name, "MHilfe");
-    EXPECT_EQ(leiste[14].aktion, Menueaktion::zeilenhilfe);
-    EXPECT_EQ(leiste[14].punkte[0].zahl, 20000);
-    EXPECT_EQ(leiste[14].punkte[1].zahl, 1000);
+    EXPECT_EQ(leiste[15].name, "MHilfe");
+    EXPECT_EQ(leiste[15].aktion, Menueaktion::zeilenhilfe);
+    EXPECT_EQ(leiste[15].punkte[0].zahl, 20000);
+    EXPECT_EQ(leiste[15].punkte[1].zahl, 1000);
 }
 
 TEST(Hauptmenue, JahrZeigtDieJahresuebersichtUndVkeOeffnetSeite66) {
@@ -230,4 +231,30 @@ TEST(Hauptmenue, LTabZeigtDieLohnsteuertabelle) {
     EXPECT_EQ(m.ziel.formwunsch, std::optional<std::string>("LStrTab"));
 }
 
+namespace {
+
+TEST(Hauptmenue, DruckmenueInDerReihenfolgeUndSeinKlickWuenschtDenDruck) {
+    test::Umgebung u;
+    const std::optional<Menuepunkt> druck = menuepunkt(u.s, "MDrucken");
+    ASSERT_TRUE(druck);
+    EXPECT_EQ(druck->text, "Druck");
+    std::vector<std::string> namen;
+    for (const Menuepunkt& p : druck->punkte) {
+        namen.push_back(p.name);
+        EXPECT_EQ(p.aktion, Menueaktion::drucken);
+    }
+    EXPECT_EQ(namen, (std::vector<std::string>{"MGraphik", "Mlinksbrutto", "Mlinksnetto",
+                                               "MlinksAG", "MLst"}));
+    EXPECT_EQ(
+        texte(druck->punkte),
+        (std::vector<std::string>{"Gehaltsberechnung als Graphik", "Gehaltsberechnung nur brutto",
+                                  "Gehaltsberechnung brutto/netto",
+                                  "Gehaltsberechnung mit AG-Aufw.", "LSt, Soz, ZVK drucken"}));
+    Menueumgebung m;
+    menueklick(m.ziel, "Mlinksnetto");
+    EXPECT_EQ(m.ziel.druckwunsch, std::optional<std::string>("Mlinksnetto"));
+    EXPECT_FALSE(m.tablett.sichtbar);
+}
+
+} // namespace
 } // namespace lonvir
