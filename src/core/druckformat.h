@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/drucker.h"
+#include "core/zeichen.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -9,18 +10,6 @@
 #include <string_view>
 
 namespace lonvir {
-
-// Characters of a UTF-8 text (each character of code page 1252 is one column on paper).
-[[nodiscard]] std::size_t zeichenzahl(std::string_view utf8);
-// The first `anzahl` characters; the whole text when it is shorter.
-[[nodiscard]] std::string links(std::string_view utf8, std::size_t anzahl);
-// Blanks removed on both sides, on the left, on the right (only blanks, as the printer's
-// text functions do).
-[[nodiscard]] std::string getrimmt(std::string_view text);
-[[nodiscard]] std::string linksgetrimmt(std::string_view text);
-[[nodiscard]] std::string rechtsgetrimmt(std::string_view text);
-// Upper case of the letters of code page 1252 (ä to Ä, é to É); ß stays ß.
-[[nodiscard]] std::string grossbuchstaben(std::string_view utf8);
 
 // A number by a format of the printed reports with German separators: "#" an optional digit,
 // "0" a digit always shown, "," in the whole part groups thousands with ".", "." the decimal
@@ -32,7 +21,9 @@ namespace lonvir {
 [[nodiscard]] std::string formatpfennig(std::int64_t pfennig, std::string_view format);
 
 // The right-alignment of money columns: the text at `Tab(endspalte - length)`, so its last
-// character stands in column `endspalte - 1`.
+// character stands in column `endspalte - 1`. `rechtsbuendig` adds it to a line being built,
+// `betragrechts` prints it.
+void rechtsbuendig(std::vector<Druckteil>& zeile, int endspalte, const std::string& text);
 void betragrechts(Drucker& d, int endspalte, const std::string& text,
                   Zeilenende ende = Zeilenende::bleiben);
 

@@ -4,6 +4,7 @@
 #include "core/cp1252.h"
 #include "core/laufzeitfehler.h"
 #include "core/satzdatei.h"
+#include "core/zeichen.h"
 #include "installation/quelltext.h"
 #include "installation/tariftabellen.h"
 #include "records/tarifsatz.h"
@@ -44,11 +45,6 @@ constexpr std::array<Block, 18> bloecke{{{1, 21, "Besoldungsordnung A"},
                                          {233, 21, "AVR Parität. Wohlfahrtsverband"},
                                          {255, 15, "Deutsche Bahn AG"},
                                          {271, 20, "Sondertarifliche Angestellte"}}};
-
-std::string rechtsgetrimmt(std::string t) {
-    t.erase(t.find_last_not_of(' ') + 1);
-    return t;
-}
 
 std::string text(const Satzdatei& texte, int nummer) {
     std::array<std::uint8_t, Textsatz::laenge> b{};

@@ -48,12 +48,4 @@ double textzahl(const std::string& text) {
     return vorzeichen * zahl;
 }
 
-std::size_t zeichenzahl(const std::string& utf8) {
-    std::size_t n = 0;
-    for (const char c : utf8)
-        if ((static_cast<unsigned char>(c) & 0xC0) != 0x80)
-            ++n;
-    return n;
-}
-
 } // namespace lonvir

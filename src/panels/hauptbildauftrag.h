@@ -2,6 +2,7 @@
 // the number reading they share.
 #pragma once
 
+#include "core/zeichen.h"
 #include "start/sitzung.h"
 
 #include <functional>
@@ -25,8 +26,5 @@ struct Hauptbildauftrag {
 // The number at the start of a text, as the forms read a field: blanks in front, a sign,
 // digits, a full stop and decimals; anything else ends it. An empty text is 0.
 [[nodiscard]] double textzahl(const std::string& text);
-
-// The number of characters of a UTF-8 text.
-[[nodiscard]] std::size_t zeichenzahl(const std::string& utf8);
 
 } // namespace lonvir

@@ -3,6 +3,7 @@
 #include "panels/textedit.h"
 
 #include "core/cp1252.h"
+#include "core/zeichen.h"
 #include "panels/namen.h"
 #include "panels/textgruppen.h"
 #include "start/texte.h"
@@ -13,13 +14,6 @@ namespace {
 
 constexpr std::size_t textlaenge = 35;
 constexpr int letzterSatz = 6000;
-
-std::string getrimmt(const std::string& t) {
-    const auto anfang = t.find_first_not_of(' ');
-    if (anfang == std::string::npos)
-        return {};
-    return t.substr(anfang, t.find_last_not_of(' ') - anfang + 1);
-}
 
 // The byte position of the last `n` characters of a UTF-8 text.
 std::string letztezeichen(const std::string& t, std::size_t n) {

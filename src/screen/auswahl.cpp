@@ -1,6 +1,7 @@
 // Picking list entries z(row), the switches of the pay rows, the service-age box and the name
 // of the person.
 #include "core/cp1252.h"
+#include "core/zeichen.h"
 #include "engine/schritte.h"
 #include "screen/form1.h"
 #include "screen/hauptmenue.h"
@@ -16,13 +17,6 @@ namespace {
 constexpr const char* jahresgehalttext =
     "Während das JAHRESGEHALT eingestellt ist, können keine Änderungen vorgenommen werden. "
     "Bitte stellen Sie ein Monatsgehalt ein.";
-
-std::string getrimmt(const std::string& text) {
-    const auto anfang = text.find_first_not_of(' ');
-    if (anfang == std::string::npos)
-        return {};
-    return text.substr(anfang, text.find_last_not_of(' ') - anfang + 1);
-}
 
 // "MM.19JJ" with a month of 1 to 12.
 bool bdagueltig(const std::string& t) {

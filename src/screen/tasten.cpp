@@ -1,6 +1,7 @@
 // Typing into the row boxes t(row): the key filter, the confirmation, the limits of the hours
 // and days rows, and the hint of a clicked box.
 #include "core/pfennig.h"
+#include "core/zeichen.h"
 #include "engine/berechnen.h"
 #include "screen/form1.h"
 
@@ -15,22 +16,6 @@ constexpr const char* achtzig = "Der Wert mußte auf 80 herabgesetzt werden";
 constexpr const char* tagegrenze =
     "Die Anzahl der Tage mußte auf 31 herabgesetzt werden, weil nur dann die Lohnsteuer und "
     "die Sozialversicherungsbeiträge richtig berechnet werden können.";
-
-std::string getrimmt(const std::string& text) {
-    const auto anfang = text.find_first_not_of(' ');
-    if (anfang == std::string::npos)
-        return {};
-    return text.substr(anfang, text.find_last_not_of(' ') - anfang + 1);
-}
-
-// Characters, not bytes: "±" is one character of the box.
-std::size_t zeichenzahl(const std::string& text) {
-    std::size_t n = 0;
-    for (unsigned char c : text)
-        if ((c & 0xC0) != 0x80)
-            ++n;
-    return n;
-}
 
 bool durchgelassen(int key) {
     return key == taste::rueck || key == taste::enter || key == '+' || key == ',' || key == '-' ||

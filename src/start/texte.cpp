@@ -2,6 +2,7 @@
 #include "start/texte.h"
 
 #include "core/cp1252.h"
+#include "core/zeichen.h"
 #include "records/bytes.h"
 #include "records/textsatz.h"
 
@@ -18,11 +19,6 @@ std::string rohlesen(Sitzung& s, int nummer) {
 
 bool leer(const std::string& roh) {
     return roh.find_first_not_of(' ') == std::string::npos;
-}
-
-std::string rechtsgetrimmt(std::string t) {
-    t.erase(t.find_last_not_of(' ') + 1);
-    return t;
 }
 } // namespace
 
