@@ -91,14 +91,6 @@ void kopfdrucken(const Sitzung& s, int monat, Drucker& d) {
     d.FontBold(false);
 }
 
-void summenzeile(Drucker& d, const std::string& text, std::int32_t an, std::int32_t ag) {
-    std::vector<Druckteil> z{text};
-    betraganfuegen(z, 45, Nachweisbetrag::betrag(an / 100.0));
-    betraganfuegen(z, 69, Nachweisbetrag::betrag(ag / 100.0));
-    betraganfuegen(z, 99, Nachweisbetrag::betrag(pf::plus(an, ag) / 100.0));
-    d.Print(z);
-}
-
 void zusammenstellung(const Beitragsnachweis& n, Drucker& d) {
     d.Print({"Zusammenstellung:", Tab{31}, "Arbeitnehmer-Beiträge", Tab{60}, "Arbeitgeber-Anteile",
              Tab{90}, "Quersumme"});
@@ -110,12 +102,12 @@ void zusammenstellung(const Beitragsnachweis& n, Drucker& d) {
     std::int32_t an = 0;
     std::int32_t ag = 0;
     for (std::size_t i = 0; i < zweige.size(); ++i) {
-        summenzeile(d, zweige[i], n.summen[2 * i], n.summen[2 * i + 1]);
+        zusammenstellungszeile(d, zweige[i], n.summen[2 * i], n.summen[2 * i + 1]);
         an = pf::plus(an, n.summen[2 * i]);
         ag = pf::plus(ag, n.summen[2 * i + 1]);
     }
     d.Print({unterstriche(regel)});
-    summenzeile(d, "Gesamtsumme:", an, ag);
+    zusammenstellungszeile(d, "Gesamtsumme:", an, ag);
 }
 
 } // namespace
@@ -135,20 +127,12 @@ Beitragsnachweis beitragsnachweisbilden(Sitzung& s, int monat) {
 void beitragsnachweisdrucken(const Sitzung& s, const Beitragsnachweis& n, Drucker& d) {
     kopfdrucken(s, n.monat, d);
     for (const Beitragszeile& z : n.zeilen) {
-        std::vector<Druckteil> zeile{z.name, Tab{17}, z.kasse};
-        for (std::size_t i = 0; i < z.betraege.size(); ++i) {
-            betraganfuegen(zeile, endspalten[i], z.betraege[i]);
-        }
-        d.Print(zeile);
+        nachweiszeile(d, {z.name, Tab{17}, z.kasse}, z.betraege, endspalten);
     }
     d.Print({unterstriche(regel)});
     d.Print({});
     d.FontBold(true);
-    std::vector<Druckteil> summe{"Summe"};
-    for (std::size_t i = 0; i < n.summen.size(); ++i) {
-        betraganfuegen(summe, endspalten[i], Nachweisbetrag::betrag(n.summen[i] / 100.0));
-    }
-    d.Print(summe);
+    summenzeile(d, n.summen, endspalten);
     d.Print({});
     d.Print({unterstriche(regel)});
     d.Print({});
@@ -169,17 +153,10 @@ Csvtabelle beitragsnachweiscsv(const Beitragsnachweis& n) {
     t.kopf = {"Person", "Name",   "Krankenkasse", "KV AN",  "KV AG", "PV AN", "PV AG",
               "ArV AN", "ArV AG", "AnV AN",       "AnV AG", "AV AN", "AV AG"};
     for (const Beitragszeile& z : n.zeilen) {
-        Csvzeile zeile{std::to_string(z.person), getrimmt(z.name), getrimmt(z.kasse)};
-        for (const Nachweisbetrag& b : z.betraege) {
-            zeile.push_back(betragzelle(b));
-        }
-        t.zeilen.push_back(std::move(zeile));
+        t.zeilen.push_back(
+            csvzeile({std::to_string(z.person), getrimmt(z.name), getrimmt(z.kasse)}, z.betraege));
     }
-    Csvzeile summe{"", "Summe", ""};
-    for (std::int32_t betrag : n.summen) {
-        summe.push_back(csvbetrag(std::int64_t{betrag}));
-    }
-    t.zeilen.push_back(std::move(summe));
+    t.zeilen.push_back(csvsummenzeile({"", "Summe", ""}, n.summen));
     return t;
 }
 

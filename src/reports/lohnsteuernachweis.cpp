@@ -116,14 +116,6 @@ void kopfdrucken(const Sitzung& s, int monat, Drucker& d) {
     d.Print({unterstriche(regel)});
 }
 
-void summenzeile(Drucker& d, const std::string& text, std::int32_t erste, std::int32_t zweite) {
-    std::vector<Druckteil> z{text};
-    betraganfuegen(z, 45, Nachweisbetrag::betrag(erste / 100.0));
-    betraganfuegen(z, 69, Nachweisbetrag::betrag(zweite / 100.0));
-    betraganfuegen(z, 99, Nachweisbetrag::betrag(pf::plus(erste, zweite) / 100.0));
-    d.Print(z);
-}
-
 void zusammenstellung(const Lohnsteuernachweis& n, Drucker& d) {
     const auto& m = n.summen;
     d.Print({"Zusammenstellung:", Tab{31}, "Steuerabzugsbeträge", Tab{60}, "AG-Pauschalsteuer",
@@ -131,19 +123,19 @@ void zusammenstellung(const Lohnsteuernachweis& n, Drucker& d) {
     d.Print({unterstriche(regel)});
     d.FontBold(false);
     const std::int32_t zwischen = pf::minus(m[0], m[10]);
-    summenzeile(d, "Lohnsteuer", m[0], m[5]);
-    summenzeile(d, "./. Kindergeld", pf::negiert(m[10]), 0);
-    summenzeile(d, "= Zwischensumme", zwischen, m[5]);
-    summenzeile(d, "+ Solidaritätszuschlag", m[1], m[6]);
-    summenzeile(d, "+ Evang. Kirchensteuer", m[2], m[7]);
-    summenzeile(d, "+ Röm.-kath. Kirchensteuer", m[3], m[8]);
-    summenzeile(d, "+ Altkath. Kirchensteuer", m[4], m[9]);
+    zusammenstellungszeile(d, "Lohnsteuer", m[0], m[5]);
+    zusammenstellungszeile(d, "./. Kindergeld", pf::negiert(m[10]), 0);
+    zusammenstellungszeile(d, "= Zwischensumme", zwischen, m[5]);
+    zusammenstellungszeile(d, "+ Solidaritätszuschlag", m[1], m[6]);
+    zusammenstellungszeile(d, "+ Evang. Kirchensteuer", m[2], m[7]);
+    zusammenstellungszeile(d, "+ Röm.-kath. Kirchensteuer", m[3], m[8]);
+    zusammenstellungszeile(d, "+ Altkath. Kirchensteuer", m[4], m[9]);
     d.Print({unterstriche(regel)});
     const std::int32_t abzug =
         pf::plus(pf::plus(pf::plus(pf::plus(zwischen, m[1]), m[2]), m[3]), m[4]);
     const std::int32_t pauschal =
         pf::plus(pf::plus(pf::plus(pf::plus(m[5], m[6]), m[7]), m[8]), m[9]);
-    summenzeile(d, "= Abzuliefernde Summe", abzug, pauschal);
+    zusammenstellungszeile(d, "= Abzuliefernde Summe", abzug, pauschal);
     d.Print({unterstriche(regel)});
 }
 
@@ -164,19 +156,11 @@ Lohnsteuernachweis lohnsteuernachweisbilden(Sitzung& s, int monat) {
 void lohnsteuernachweisdrucken(const Sitzung& s, const Lohnsteuernachweis& n, Drucker& d) {
     kopfdrucken(s, n.monat, d);
     for (const Lohnsteuerzeile& z : n.zeilen) {
-        std::vector<Druckteil> zeile{z.name};
-        for (std::size_t i = 0; i < z.betraege.size(); ++i) {
-            betraganfuegen(zeile, endspalten[i], z.betraege[i]);
-        }
-        d.Print(zeile);
+        nachweiszeile(d, {z.name}, z.betraege, endspalten);
     }
     d.Print({unterstriche(regel)});
     d.FontBold(true);
-    std::vector<Druckteil> summe{"Summe"};
-    for (std::size_t i = 0; i < n.summen.size(); ++i) {
-        betraganfuegen(summe, endspalten[i], Nachweisbetrag::betrag(n.summen[i] / 100.0));
-    }
-    d.Print(summe);
+    summenzeile(d, n.summen, endspalten);
     d.Print({unterstriche(regel)});
     zusammenstellung(n, d);
     d.EndDoc();
@@ -202,17 +186,9 @@ Csvtabelle lohnsteuernachweiscsv(const Lohnsteuernachweis& n) {
               "ZVK ak. Kirchensteuer",
               "Kindergeld"};
     for (const Lohnsteuerzeile& z : n.zeilen) {
-        Csvzeile zeile{std::to_string(z.person), getrimmt(z.name)};
-        for (const Nachweisbetrag& b : z.betraege) {
-            zeile.push_back(betragzelle(b));
-        }
-        t.zeilen.push_back(std::move(zeile));
+        t.zeilen.push_back(csvzeile({std::to_string(z.person), getrimmt(z.name)}, z.betraege));
     }
-    Csvzeile summe{"", "Summe"};
-    for (std::int32_t betrag : n.summen) {
-        summe.push_back(csvbetrag(std::int64_t{betrag}));
-    }
-    t.zeilen.push_back(std::move(summe));
+    t.zeilen.push_back(csvsummenzeile({"", "Summe"}, n.summen));
     return t;
 }
 

@@ -19,11 +19,6 @@ int gruppe(int klasse) {
     return 24 + 26 * (klasse - 1);
 }
 
-void rechts(std::vector<Druckteil>& z, int endspalte, const std::string& text) {
-    z.emplace_back(Tab{endspalte - static_cast<int>(zeichenzahl(text))});
-    z.emplace_back(text);
-}
-
 std::array<Currency, 3> betraege(const Tabellenzeile& z) {
     return {z.lohnsteuer, z.solidaritaetszuschlag, z.kirchensteuer};
 }
@@ -47,15 +42,15 @@ void bereichskopf(const Tabellenbereich& b, Drucker& d) {
     d.FontBold(true);
     std::vector<Druckteil> klassen{Tab{1}, "Lohn"};
     std::vector<Druckteil> spalten;
-    rechts(spalten, vonende, "von DM");
-    rechts(spalten, bisende, "bis DM");
+    rechtsbuendig(spalten, vonende, "von DM");
+    rechtsbuendig(spalten, bisende, "bis DM");
     for (int k = 1; k <= 6; ++k) {
         klassen.insert(klassen.end(),
                        {Tab{gruppe(k) + 3}, "Klasse " + std::string(klassenzeilen.at(
                                                             static_cast<std::size_t>(k - 1)))});
-        rechts(spalten, gruppe(k) + 9, "LSt");
-        rechts(spalten, gruppe(k) + 17, "SolZ");
-        rechts(spalten, gruppe(k) + 25, "KiSt");
+        rechtsbuendig(spalten, gruppe(k) + 9, "LSt");
+        rechtsbuendig(spalten, gruppe(k) + 17, "SolZ");
+        rechtsbuendig(spalten, gruppe(k) + 25, "KiSt");
     }
     d.Print(klassen);
     d.Print(spalten);
@@ -125,7 +120,7 @@ void tabelledrucken(const Lohnsteuertabelle& t, Drucker& d) {
     d.FontBold(true);
     std::vector<Druckteil> kopf{Tab{10}, tabellenkopf[0]};
     for (std::size_t i = 0; i < spaltennamen.size(); ++i)
-        rechts(kopf, 35 + 15 * static_cast<int>(i), spaltennamen[i]);
+        rechtsbuendig(kopf, 35 + 15 * static_cast<int>(i), spaltennamen[i]);
     d.Print(kopf);
     d.FontBold(false);
     d.Print({Tab{10}, std::string(55, '_')});
@@ -133,7 +128,7 @@ void tabelledrucken(const Lohnsteuertabelle& t, Drucker& d) {
         std::vector<Druckteil> z{Tab{12}, klassenzeilen.at(static_cast<std::size_t>(klasse - 1))};
         const auto b = betraege(t.zeilen[klasse]);
         for (std::size_t i = 0; i < b.size(); ++i)
-            rechts(z, 35 + 15 * static_cast<int>(i), tabellenbetrag(b[i]));
+            rechtsbuendig(z, 35 + 15 * static_cast<int>(i), tabellenbetrag(b[i]));
         d.Print(z);
     }
     d.Print({Tab{10}, std::string(55, '_')});
@@ -153,13 +148,13 @@ void tabellenbereichdrucken(const Tabellenbereich& b, Drucker& d) {
     for (std::int32_t v = b.von; v <= b.bis; ++v) {
         const Lohnsteuertabelle t = band(b.auswahl, v);
         std::vector<Druckteil> z;
-        rechts(z, vonende, tabellenbetrag(t.band.unten));
-        rechts(z, bisende, tabellenbetrag(t.band.oben));
+        rechtsbuendig(z, vonende, tabellenbetrag(t.band.unten));
+        rechtsbuendig(z, bisende, tabellenbetrag(t.band.oben));
         for (int k = 1; k <= 6; ++k) {
             const auto werte = betraege(t.zeilen[k]);
-            rechts(z, gruppe(k) + 9, tabellenbetrag(werte[0]));
-            rechts(z, gruppe(k) + 17, tabellenbetrag(werte[1]));
-            rechts(z, gruppe(k) + 25, tabellenbetrag(werte[2]));
+            rechtsbuendig(z, gruppe(k) + 9, tabellenbetrag(werte[0]));
+            rechtsbuendig(z, gruppe(k) + 17, tabellenbetrag(werte[1]));
+            rechtsbuendig(z, gruppe(k) + 25, tabellenbetrag(werte[2]));
         }
         d.Print(z);
     }
