@@ -2,6 +2,7 @@
 #include "cli/befehle.h"
 
 #include "cli/druckberichte.h"
+#include "core/betragstext.h"
 #include "reports/tabellendruck.h"
 
 #include "reports/lohnsteuertabelle.h"
@@ -76,13 +77,11 @@ void alsJson(Kontext& k, const Lohnsteuertabelle& t, std::ostream& aus) {
 }
 
 void alsText(const Lohnsteuertabelle& t, std::ostream& aus) {
-    const Tabellenauswahl& a = t.auswahl;
-    aus << lstrtabTitel << "\n"
-        << lohnzeitraumliste[static_cast<std::size_t>(a.lohnzeitraum - 1)] << ", "
-        << kinderfreibetragseintrag(static_cast<int>(a.kinderfreibetraege.roh() / 5000)) << ", "
-        << tabellenliste[static_cast<std::size_t>(a.besonderetabelle)] << ", "
-        << altersliste[static_cast<std::size_t>(a.altersentlastung)] << ", "
-        << kirchensteuerliste[a.kirchensteuersatz == Currency::roh(800) ? 0 : 1] << "\n"
+    aus << lstrtabTitel << "\n";
+    const std::vector<std::string> texte = auswahltexte(t.auswahl);
+    for (std::size_t i = 0; i < texte.size(); ++i)
+        aus << (i > 0 ? ", " : "") << texte[i];
+    aus << "\n"
         << "von DM " << tabellenbetrag(t.band.unten) << "   bis DM " << tabellenbetrag(t.band.oben)
         << "\n";
     aus << std::left << std::setw(8) << tabellenkopf[0] << std::right;
@@ -101,19 +100,12 @@ void alsText(const Lohnsteuertabelle& t, std::ostream& aus) {
 // A DM amount of --von or --bis: whole DM, or DM and Pfennig after a comma or a point.
 std::int64_t pfennigAus(const Optionen& o, const std::string& name) {
     const std::string w = o.pflicht(name);
-    const auto trenner = w.find_first_of(",.");
-    const std::string mark = w.substr(0, trenner);
-    const std::string pfennig = trenner == std::string::npos ? "" : w.substr(trenner + 1);
-    const auto ziffern = [](const std::string& t) {
-        return t.find_first_not_of("0123456789") == std::string::npos;
-    };
-    if (mark.empty() || mark.size() > 7 || !ziffern(mark) || pfennig.size() > 2 ||
-        (trenner != std::string::npos && (pfennig.empty() || !ziffern(pfennig))))
+    const std::optional<std::int64_t> pfennig = dmlesen(w);
+    if (!pfennig)
         throw Aufruffehler("--" + name +
                            " erwartet einen Betrag in DM wie 2000 oder 2000,50, nicht \"" + w +
                            "\".");
-    return std::stoll(mark) * 100 +
-           (pfennig.empty() ? 0 : std::stoll(pfennig) * (pfennig.size() == 1 ? 10 : 1));
+    return *pfennig;
 }
 
 // A range of bands, one line each, through the printer into text, PDF or CSV.

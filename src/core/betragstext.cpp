@@ -38,4 +38,29 @@ std::string zeilentext(int zeile, std::int32_t wert) {
     return ziffern(betragVon(wert)) + zeichen;
 }
 
+std::optional<std::int64_t> dmlesen(std::string_view text) {
+    // With a comma every point groups thousands; without one, a point followed by one or two
+    // digits at the end is the decimal point.
+    std::string t(text);
+    const auto komma = t.find(',');
+    const auto punkt = t.rfind('.');
+    const bool punktdezimal =
+        komma == std::string::npos && punkt != std::string::npos && t.size() - punkt <= 3;
+    std::string mark, pfennig;
+    const auto trenner = komma != std::string::npos ? komma : punktdezimal ? punkt : t.size();
+    for (std::size_t i = 0; i < trenner; ++i)
+        if (t[i] != '.')
+            mark += t[i];
+    if (trenner < t.size())
+        pfennig = t.substr(trenner + 1);
+    const auto ziffern = [](const std::string& z) {
+        return z.find_first_not_of("0123456789") == std::string::npos;
+    };
+    if (mark.empty() || mark.size() > 7 || !ziffern(mark) || pfennig.size() > 2 ||
+        (trenner < t.size() && (pfennig.empty() || !ziffern(pfennig))))
+        return std::nullopt;
+    return std::stoll(mark) * 100 +
+           (pfennig.empty() ? 0 : std::stoll(pfennig) * (pfennig.size() == 1 ? 10 : 1));
+}
+
 } // namespace lonvir

@@ -1,6 +1,7 @@
 // The wage-tax table viewer and the allowances display.
 #include "gui/lstrtabfenster.h"
 
+#include "core/betragstext.h"
 #include "core/drucker.h"
 #include "druck/druckfenster.h"
 #include "reports/tabellendruck.h"
@@ -43,15 +44,6 @@ QTableWidgetItem* zelle(const QString& text, bool rechts) {
 void vorschau(QWidget* eltern, Merkdrucker& d, const QString& titel) {
     druck::Druckvorschau v(std::move(d.dokumente), titel, eltern);
     v.exec();
-}
-
-// "2000" or "2000,50" DM as Pfennig; nothing for anything else.
-std::optional<std::int64_t> dmlesen(const QString& text) {
-    bool ok = false;
-    const double dm = QLocale(QLocale::German).toDouble(text.trimmed(), &ok);
-    if (!ok || dm < 0 || dm > 9'999'999)
-        return std::nullopt;
-    return static_cast<std::int64_t>(std::llround(dm * 100));
 }
 
 } // namespace
@@ -214,8 +206,8 @@ void LStrTabFenster::bereichdrucken() {
     connect(knoepfe, &QDialogButtonBox::rejected, &frage, &QDialog::reject);
     if (frage.exec() != QDialog::Accepted)
         return;
-    const auto unten = dmlesen(QString(von->text()).remove(QLatin1Char('.')));
-    const auto oben = dmlesen(QString(bis->text()).remove(QLatin1Char('.')));
+    const auto unten = dmlesen(von->text().trimmed().toStdString());
+    const auto oben = dmlesen(bis->text().trimmed().toStdString());
     if (!unten || !oben) {
         QMessageBox::warning(
             this, QStringLiteral("Tabelle drucken"),

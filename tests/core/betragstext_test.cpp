@@ -34,3 +34,26 @@ TEST(Betragstext, Zeilen27Bis32OhneText) {
 }
 
 } // namespace lonvir
+
+namespace lonvir {
+
+TEST(Dmlesen, GanzeMarkUndPfennig) {
+    EXPECT_EQ(dmlesen("2000"), 200000);
+    EXPECT_EQ(dmlesen("2000,5"), 200050);
+    EXPECT_EQ(dmlesen("2000,50"), 200050);
+    EXPECT_EQ(dmlesen("2000.50"), 200050);
+    EXPECT_EQ(dmlesen("3.996,16"), 399616);
+    EXPECT_EQ(dmlesen("2.000"), 200000);
+    EXPECT_EQ(dmlesen("0"), 0);
+}
+
+TEST(Dmlesen, AnderesIstKeinBetrag) {
+    EXPECT_EQ(dmlesen(""), std::nullopt);
+    EXPECT_EQ(dmlesen("20x0"), std::nullopt);
+    EXPECT_EQ(dmlesen("2000,"), std::nullopt);
+    EXPECT_EQ(dmlesen("2000,505"), std::nullopt);
+    EXPECT_EQ(dmlesen("-5"), std::nullopt);
+    EXPECT_EQ(dmlesen("12345678"), std::nullopt);
+}
+
+} // namespace lonvir
