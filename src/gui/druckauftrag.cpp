@@ -5,8 +5,10 @@
 #include "druck/druckfenster.h"
 #include "panels/arbeitsblaetter.h"
 #include "reports/abzuegedrucken.h"
+#include "reports/beitragsnachweis.h"
 #include "reports/gehaltdrucken.h"
 #include "reports/grafikdrucken.h"
+#include "reports/lohnsteuernachweis.h"
 #include "screen/schirmtexte.h"
 
 #include <QApplication>
@@ -62,6 +64,15 @@ void druckauftrag(Form1Fenster& fenster, Sitzung& s, const std::string& name) {
         abzuegedrucken(
             s, texte, [&s](bool sv) { return arbeitsblaetterkopieren(s, sv); }, d);
         vorschauzeigen(fenster, d, titelfuer("LSt, Soz, ZVK", texte));
+        return;
+    }
+    // The month's statements of the whole layer, from the stored records.
+    if (name == "MBeitrag" || name == "MLstNachweis") {
+        const bool beitrag = name == "MBeitrag";
+        (beitrag ? beitragsnachweis : lohnsteuernachweis)(s, d);
+        vorschauzeigen(fenster, d,
+                       QString::fromUtf8(beitrag ? "Beitragsnachweis " : "Lohnsteuer-Nachweis ") +
+                           QString::fromStdString(getrimmt(texte.z[20])));
         return;
     }
     for (const Statementeintrag& e : statements) {

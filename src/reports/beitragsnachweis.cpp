@@ -145,6 +145,9 @@ void beitragsnachweisdrucken(const Sitzung& s, const Beitragsnachweis& n, Drucke
 }
 
 void beitragsnachweis(Sitzung& s, Drucker& d) {
+    if (!monatgewaehlt(s, "Beitragsnachweis")) {
+        return;
+    }
     beitragsnachweisdrucken(s, beitragsnachweisbilden(s, s.merkmal[20]), d);
 }
 

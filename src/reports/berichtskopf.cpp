@@ -22,6 +22,20 @@ std::string unterstriche(int laenge) {
     return std::string(static_cast<std::size_t>(laenge), '_');
 }
 
+bool monatgewaehlt(Sitzung& s, const std::string& bericht) {
+    if (s.merkmal[20] >= 0 && s.merkmal[20] <= 11) {
+        return true;
+    }
+    if (s.dialoge != nullptr) {
+        (void)s.dialoge->zeigen({"Jahr",
+                                 "Der " + bericht +
+                                     " wird für einen Monat gedruckt. Bitte stellen Sie "
+                                     "einen Monat ein.",
+                                 Symbol::ausruf, Knoepfe::ok});
+    }
+    return false;
+}
+
 void briefkopf(const Sitzung& s, Drucker& d, int ortspalte) {
     d.Print({cp1252NachUtf8(s.dienststelle1), Tab{ortspalte}, cp1252NachUtf8(s.dienststellenort)});
     d.Print({cp1252NachUtf8(s.dienststelle2)});

@@ -15,5 +15,8 @@ namespace lonvir {
 // The letterhead of the lists: `dienststelle1` where the position stands, `dienststellenort`
 // at `Tab(ortspalte)`, line end, `dienststelle2` on a line of its own; both untrimmed.
 void briefkopf(const Sitzung& s, Drucker& d, int ortspalte);
+// The monthly statements print the month on the main screen; in the year view they refuse
+// with a message box titled "Jahr" and print nothing. True when a month is selected.
+bool monatgewaehlt(Sitzung& s, const std::string& bericht);
 
 } // namespace lonvir

@@ -167,6 +167,9 @@ void lohnsteuernachweisdrucken(const Sitzung& s, const Lohnsteuernachweis& n, Dr
 }
 
 void lohnsteuernachweis(Sitzung& s, Drucker& d) {
+    if (!monatgewaehlt(s, "Lohnsteuer-Nachweis")) {
+        return;
+    }
     lohnsteuernachweisdrucken(s, lohnsteuernachweisbilden(s, s.merkmal[20]), d);
 }
 

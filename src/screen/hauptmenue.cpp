@@ -117,6 +117,8 @@ std::vector<Menuepunkt> druckpunkte() {
         punkt("Mlinksnetto", "Gehaltsberechnung brutto/netto"),
         punkt("MlinksAG", "Gehaltsberechnung mit AG-Aufw."),
         punkt("MLst", "LSt, Soz, ZVK drucken"),
+        punkt("MBeitrag", "Beitragsnachweis drucken"),
+        punkt("MLstNachweis", "Lohnstr.-Nachweis drucken"),
     };
 }
 

@@ -117,6 +117,19 @@ TEST(Druckvorschau, DieAnlageImQuerformat) {
     EXPECT_EQ(druckmodus(), 0);
 }
 
+TEST(Druckvorschau, DieNachweiseDesMonatsImQuerformat) {
+    Druckfenster w;
+    const auto b = w.drucken("MBeitrag");
+    ASSERT_TRUE(b.vorschau);
+    EXPECT_TRUE(
+        enthaelt(b.dokumente, "B E I T R A G S N A C H W E I S  für den Monat   J A N U A R"));
+    EXPECT_TRUE(enthaelt(b.dokumente, "Schneider, Petr"));
+    EXPECT_EQ(b.ausrichtung, QPageLayout::Landscape);
+    const auto l = w.drucken("MLstNachweis");
+    ASSERT_TRUE(l.vorschau);
+    EXPECT_TRUE(enthaelt(l.dokumente, "L O H N S T E U E R   -   N A C H W E I S"));
+}
+
 TEST(Druckvorschau, DasBildDesFenstersUndDanachDerHinweis) {
     Druckfenster w;
     const auto g = w.drucken("MGraphik");

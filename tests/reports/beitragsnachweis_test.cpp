@@ -228,3 +228,27 @@ TEST_F(Nachweis, CsvMitSummenzeile) {
 }
 
 } // namespace lonvir
+
+namespace lonvir {
+
+TEST_F(Nachweis, ImJahresbildWirdNichtsGedrucktSondernGemeldet) {
+    test::personsetzen(u.s, 1, "Schneider, Petra", 0, angestellter());
+    u.s.merkmal[20] = 12;
+    beitragsnachweis(u.s, d);
+    EXPECT_TRUE(d.dokumente.empty());
+    ASSERT_EQ(u.dialoge.gezeigt().size(), 1u);
+    EXPECT_EQ(u.dialoge.gezeigt()[0].titel, "Jahr");
+    EXPECT_EQ(u.dialoge.gezeigt()[0].text, "Der Beitragsnachweis wird für einen Monat gedruckt. "
+                                           "Bitte stellen Sie einen Monat ein.");
+}
+
+TEST_F(Nachweis, DerMonatDesHauptbildesWirdGedruckt) {
+    test::personsetzen(u.s, 1, "Schneider, Petra", 2, angestellter());
+    u.s.merkmal[20] = 2;
+    beitragsnachweis(u.s, d);
+    ASSERT_EQ(d.dokumente.size(), 1u);
+    EXPECT_EQ(zeile(4), "B E I T R A G S N A C H W E I S  für den Monat   M Ä R Z");
+    EXPECT_EQ(zeile(ersteperson).substr(0, 15), "Schneider, Petr");
+}
+
+} // namespace lonvir

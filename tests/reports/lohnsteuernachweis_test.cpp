@@ -226,3 +226,16 @@ TEST_F(Steuernachweis, CsvMitSummenzeileUndLeerenKirchenspalten) {
 }
 
 } // namespace lonvir
+
+namespace lonvir {
+
+TEST_F(Steuernachweis, ImJahresbildWirdNichtsGedrucktSondernGemeldet) {
+    u.s.merkmal[20] = 12;
+    lohnsteuernachweis(u.s, d);
+    EXPECT_TRUE(d.dokumente.empty());
+    ASSERT_EQ(u.dialoge.gezeigt().size(), 1u);
+    EXPECT_EQ(u.dialoge.gezeigt()[0].text, "Der Lohnsteuer-Nachweis wird für einen Monat "
+                                           "gedruckt. Bitte stellen Sie einen Monat ein.");
+}
+
+} // namespace lonvir

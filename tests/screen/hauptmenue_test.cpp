@@ -244,12 +244,13 @@ TEST(Hauptmenue, DruckmenueInDerReihenfolgeUndSeinKlickWuenschtDenDruck) {
         EXPECT_EQ(p.aktion, Menueaktion::drucken);
     }
     EXPECT_EQ(namen, (std::vector<std::string>{"MGraphik", "Mlinksbrutto", "Mlinksnetto",
-                                               "MlinksAG", "MLst"}));
+                                               "MlinksAG", "MLst", "MBeitrag", "MLstNachweis"}));
     EXPECT_EQ(
         texte(druck->punkte),
         (std::vector<std::string>{"Gehaltsberechnung als Graphik", "Gehaltsberechnung nur brutto",
                                   "Gehaltsberechnung brutto/netto",
-                                  "Gehaltsberechnung mit AG-Aufw.", "LSt, Soz, ZVK drucken"}));
+                                  "Gehaltsberechnung mit AG-Aufw.", "LSt, Soz, ZVK drucken",
+                                  "Beitragsnachweis drucken", "Lohnstr.-Nachweis drucken"}));
     Menueumgebung m;
     menueklick(m.ziel, "Mlinksnetto");
     EXPECT_EQ(m.ziel.druckwunsch, std::optional<std::string>("Mlinksnetto"));
