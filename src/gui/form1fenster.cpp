@@ -257,7 +257,10 @@ void Form1Fenster::verbinden(int zeile) {
     Zeile& w = zeilen_[static_cast<std::size_t>(zeile)];
     if (w.z) {
         w.z->installEventFilter(this);
-        w.z->view()->viewport()->installEventFilter(this);
+        // The popup's view is made on first asking; asked here once and kept, since asking
+        // from the event filter while it is being made would make it again.
+        w.aufklapp = w.z->view()->viewport();
+        w.aufklapp->installEventFilter(this);
         if (w.z->lineEdit())
             w.z->lineEdit()->installEventFilter(this);
         if (zeile == 0)
@@ -333,7 +336,7 @@ bool Form1Fenster::eventFilter(QObject* objekt, QEvent* ereignis) {
 bool Form1Fenster::zeilenereignis(int zeile, QObject* objekt, QEvent* ereignis) {
     const Zeile& w = zeilen_[static_cast<std::size_t>(zeile)];
     const QEvent::Type art = ereignis->type();
-    if (w.z && objekt == w.z->view()->viewport())
+    if (w.aufklapp && objekt == w.aufklapp)
         return listenzweitklick(zeile, art);
     const bool tastendruck = art == QEvent::KeyPress;
     const auto* e = tastendruck ? static_cast<QKeyEvent*>(ereignis) : nullptr;

@@ -75,6 +75,7 @@ private:
         QFrame* streifen = nullptr;
         QComboBox* z = nullptr;
         QLineEdit* t = nullptr;
+        QWidget* aufklapp = nullptr; // the viewport of the list's popup
         std::uint32_t listenstand = 0xFFFFFFFF;
         int farbe = -1;
     };
