@@ -10,6 +10,7 @@
 #include "start/texte.h"
 #include "testhilfe.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
