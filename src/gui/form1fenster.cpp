@@ -27,6 +27,10 @@ namespace {
 
 constexpr Schalterart spalten[] = {L, S, Z, W, T, P};
 
+// The box that has the focus is framed and lit, so that Tab shows where it went.
+const char* const wertfeldstil =
+    "QLineEdit:focus { border: 2px solid #000080; background: #FFFFC0; }";
+
 QString farbtext(int nummer) {
     return qbcolor(nummer).name();
 }
@@ -119,6 +123,7 @@ void Form1Fenster::aufbauen() {
             w.t = new QLineEdit(spalte);
             w.t->setObjectName(QStringLiteral("t%1").arg(zeile));
             w.t->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            w.t->setStyleSheet(QString::fromUtf8(wertfeldstil));
             QFont fest(QStringLiteral("Courier New"));
             fest.setStyleHint(QFont::TypeWriter);
             fest.setFixedPitch(true);
@@ -162,6 +167,7 @@ void Form1Fenster::aufbauen() {
     bdaBeginn_->setObjectName(QStringLiteral("BDABeginn"));
     bdaBeginn_->setToolTip(QStringLiteral("Bes.dienstalter  (MM.19JJ)"));
     bdaBeginn_->setMaxLength(7);
+    bdaBeginn_->setStyleSheet(QString::fromUtf8(wertfeldstil));
     bdaBeginn_->installEventFilter(this);
 }
 
@@ -169,6 +175,8 @@ void Form1Fenster::kopfAufbauen(QWidget* kopf) {
     picture1_ = new QLabel(QStringLiteral("LONVIR 97"), kopf);
     picture1_->setObjectName(QStringLiteral("Picture1"));
     picture1_->setAlignment(Qt::AlignCenter);
+    picture1_->setCursor(Qt::PointingHandCursor);
+    picture1_->installEventFilter(this);
     picture1_->setStyleSheet(
         QStringLiteral("background: #FFFF00; color: #000080; border: 1px solid #000080;"));
     const char* schichten[] = {"I  N  F  O", "P  L  A  N", "R  E  A  L"};
@@ -249,6 +257,10 @@ void Form1Fenster::verbinden(int zeile) {
     Zeile& w = zeilen_[static_cast<std::size_t>(zeile)];
     if (w.z) {
         w.z->installEventFilter(this);
+        // The popup's view is made on first asking; asked here once and kept, since asking
+        // from the event filter while it is being made would make it again.
+        w.aufklapp = w.z->view()->viewport();
+        w.aufklapp->installEventFilter(this);
         if (w.z->lineEdit())
             w.z->lineEdit()->installEventFilter(this);
         if (zeile == 0)
@@ -297,6 +309,10 @@ bool Form1Fenster::eventFilter(QObject* objekt, QEvent* ereignis) {
             ausfuehren([&] { modell_.SSPanel_Click(i); });
             return true;
         }
+    if (objekt == picture1_ && ereignis->type() == QEvent::MouseButtonRelease) {
+        ausfuehren([&] { modell_.Picture1_Click(); });
+        return true;
+    }
     if (objekt == bdaBeginn_ && ereignis->type() == QEvent::KeyPress) {
         const int key = tastencode(static_cast<QKeyEvent*>(ereignis));
         if (key == 0)
@@ -320,19 +336,34 @@ bool Form1Fenster::eventFilter(QObject* objekt, QEvent* ereignis) {
 bool Form1Fenster::zeilenereignis(int zeile, QObject* objekt, QEvent* ereignis) {
     const Zeile& w = zeilen_[static_cast<std::size_t>(zeile)];
     const QEvent::Type art = ereignis->type();
+    if (w.aufklapp && objekt == w.aufklapp)
+        return listenzweitklick(zeile, art);
+    const bool tastendruck = art == QEvent::KeyPress;
+    const auto* e = tastendruck ? static_cast<QKeyEvent*>(ereignis) : nullptr;
+    const bool inZeile = objekt == w.z || objekt == w.t || (w.z && objekt == w.z->lineEdit());
+    if (inZeile && tastendruck && e->key() == Qt::Key_F1) {
+        ausfuehren([&] { modell_.F1(zeile); });
+        return true;
+    }
     if (w.z && objekt == w.z) {
-        if (art == QEvent::FocusIn)
+        if (art == QEvent::FocusIn) {
             ausfuehren([&] { modell_.z_GotFocus(zeile); });
-        else if (art == QEvent::MouseButtonDblClick)
+        } else if (art == QEvent::MouseButtonDblClick) {
             ausfuehren([&] { modell_.z_DblClick(zeile); });
+        } else if (art == QEvent::MouseButtonPress) {
+            listendruckzeile_ = zeile;
+            listendruck_.start();
+        } else if (tastendruck && w.z->isEditable() && tastencode(e) == taste::enter) {
+            // The editable name list takes the keys itself and hands them to its line edit
+            // directly: Enter is seen here, on the list.
+            umbenennen(zeile);
+            return true;
+        }
         return false;
     }
     if (w.z && w.z->lineEdit() && objekt == w.z->lineEdit()) {
-        if (art == QEvent::KeyPress && tastencode(static_cast<QKeyEvent*>(ereignis)) == 13) {
-            ausfuehren([&] {
-                modell_.bild.zeilen[0].editiertext = w.z->currentText().toStdString();
-                modell_.z_KeyPress(zeile, taste::enter);
-            });
+        if (tastendruck && tastencode(e) == taste::enter) {
+            umbenennen(zeile);
             return true;
         }
         if (art == QEvent::FocusIn)
@@ -350,6 +381,30 @@ bool Form1Fenster::zeilenereignis(int zeile, QObject* objekt, QEvent* ereignis) 
         return false;
     }
     return false;
+}
+
+// Enter on the edit part of the name list: the typed name for the current person.
+void Form1Fenster::umbenennen(int zeile) {
+    QComboBox* liste = z(zeile);
+    ausfuehren([&] {
+        modell_.bild.zeilen[static_cast<std::size_t>(zeile)].editiertext =
+            liste->currentText().toStdString();
+        modell_.z_KeyPress(zeile, taste::enter);
+    });
+}
+
+// A click in the open list soon after the press that opened it: the list closes and the
+// row's help opens, as a double click on the list.
+bool Form1Fenster::listenzweitklick(int zeile, QEvent::Type art) {
+    if (art != QEvent::MouseButtonPress && art != QEvent::MouseButtonDblClick)
+        return false;
+    if (listendruckzeile_ != zeile || !listendruck_.isValid() ||
+        listendruck_.elapsed() > QApplication::doubleClickInterval())
+        return false;
+    listendruckzeile_ = -1;
+    z(zeile)->hidePopup();
+    ausfuehren([&] { modell_.z_DblClick(zeile); });
+    return true;
 }
 
 // A key in a row box: the model decides whether it goes into the box.
@@ -386,8 +441,12 @@ void Form1Fenster::keyPressEvent(QKeyEvent* e) {
 
 void Form1Fenster::darstellen() {
     darstellend_ = true;
+    listengeaendert_ = false;
     for (int zeile = 0; zeile <= 45; ++zeile)
         zeileDarstellen(zeile);
+    // New lists may hold a longer entry: the fonts are measured again.
+    if (listengeaendert_)
+        bildausrechnen(true);
     const Hauptbild& b = modell_.bild;
     for (Schalterart art : spalten) {
         const Schalterspalte& spalte = b.schalter[static_cast<std::size_t>(art)];
@@ -416,7 +475,8 @@ void Form1Fenster::zeileDarstellen(int zeile) {
         w.streifen->setPalette(p);
         if (w.z)
             w.z->setStyleSheet(QStringLiteral("QComboBox { background: %1; color: %2; }"
-                                              "QComboBox:disabled { color: %3; }")
+                                              "QComboBox:disabled { color: %3; }"
+                                              "QComboBox:focus { border: 2px solid #000080; }")
                                    .arg(farbtext(b.farbe), farbtext(b.textfarbe),
                                         b.textfarbe == 15 ? QStringLiteral("#C0C0C0")
                                                           : QStringLiteral("#606060")));
@@ -424,6 +484,7 @@ void Form1Fenster::zeileDarstellen(int zeile) {
     if (w.z) {
         if (w.listenstand != b.listenstand) {
             w.listenstand = b.listenstand;
+            listengeaendert_ = true;
             w.z->clear();
             for (const std::string& eintrag : b.liste)
                 w.z->addItem(text(eintrag));

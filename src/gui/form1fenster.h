@@ -5,6 +5,9 @@
 #include "gui/qtdialoge.h"
 #include "screen/form1.h"
 
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QFont>
 #include <QMainWindow>
 #include <QSize>
 
@@ -36,6 +39,8 @@ public:
     void bildausrechnen(bool erzwingen);
     // Keeps the window's size out of the settings (screenshots and tests).
     void geometrieFesthalten() { geometrieFest_ = geometrieFestGewuenscht_ = true; }
+    // Stores the window's place now, as a close does (the end of a screenshot run).
+    void platzMerken();
 
     [[nodiscard]] Form1& modell() { return modell_; }
     [[nodiscard]] QComboBox* z(int zeile) const;
@@ -43,6 +48,8 @@ public:
     [[nodiscard]] QCheckBox* schalter(Schalterart art, int zeile) const;
     [[nodiscard]] QLineEdit* bdaBeginn() const { return bdaBeginn_; }
     [[nodiscard]] QLabel* hinweis() const { return panel3D6_; }
+    [[nodiscard]] QLabel* picture1() const { return picture1_; }
+    [[nodiscard]] QWidget* kopf() const { return kopf_; }
     [[nodiscard]] QPushButton* command7() const { return command7_; }
 
 signals:
@@ -68,6 +75,7 @@ private:
         QFrame* streifen = nullptr;
         QComboBox* z = nullptr;
         QLineEdit* t = nullptr;
+        QWidget* aufklapp = nullptr; // the viewport of the list's popup
         std::uint32_t listenstand = 0xFFFFFFFF;
         int farbe = -1;
     };
@@ -75,11 +83,15 @@ private:
     void aufbauen();
     void kopfAufbauen(QWidget* kopf);
     void kopfAusrechnen(double breite, double zeilenhoehe);
+    [[nodiscard]] int listenschrift(QFont schrift, bool linke, int breite, int groesste) const;
+    void maximieren();
     void verbinden(int zeile);
     void namenvervollstaendigen(QComboBox* liste);
     // Runs one handler with the hourglass; a run-time error ends the program with its message.
     void ausfuehren(const std::function<void()>& handler);
     bool zeilenereignis(int zeile, QObject* objekt, QEvent* ereignis);
+    void umbenennen(int zeile);
+    bool listenzweitklick(int zeile, QEvent::Type art);
     bool tastenereignis(int zeile, QLineEdit* feld, QKeyEvent* taste);
     void zeileDarstellen(int zeile);
     void kopfDarstellen();
@@ -114,6 +126,10 @@ private:
     bool geometrieFest_ = true; // until the load has placed the window
     bool geometrieFestGewuenscht_ = false;
     QSize ausgerechnet_;
+    bool listengeaendert_ = false;
+    int listendruckzeile_ = -1;
+    QElapsedTimer listendruck_;
+    int kaestchenpx_ = 0;
     bool beendet_ = false;
 };
 

@@ -2,6 +2,7 @@
 // size of the window, the window's place kept in the display settings.
 #include "gui/form1fenster.h"
 
+#include "screen/fensterlage.h"
 #include "start/einstellungen.h"
 
 #include <QCheckBox>
@@ -67,12 +68,25 @@ void Form1Fenster::laden() {
     const auto px = [tpp](Currency twips) {
         return static_cast<int>(std::lround(twips.alsDouble() / tpp));
     };
+    const QScreen* bildschirm = screen();
+    const QRect frei = bildschirm ? bildschirm->availableGeometry() : QRect(0, 0, 1024, 768);
     const QRect ort(px(s_.dim.form1left), px(s_.dim.form1top), px(s_.dim.form1width),
                     px(s_.dim.form1height));
-    if (ort.width() >= 320 && ort.height() >= 240)
-        setGeometry(ort);
-    else
-        resize(1024, 700);
+    if (eigenefensterlage(s_) && ort.width() >= 320 && ort.height() >= 240) {
+        // The place it had when it was closed, kept on the screen of this start.
+        const QRect innen(ort.topLeft(), ort.size().boundedTo(frei.size()));
+        setGeometry(innen
+                        .translated(std::min(0, frei.right() - innen.right()),
+                                    std::min(0, frei.bottom() - innen.bottom()))
+                        .translated(std::max(0, frei.left() - innen.left()),
+                                    std::max(0, frei.top() - innen.top())));
+        if (ort.width() >= frei.width() && ort.height() >= frei.height())
+            maximieren();
+    } else {
+        // The first start: the whole screen.
+        setGeometry(frei);
+        maximieren();
+    }
     bildausrechnen(true);
     darstellen();
     QTimer::singleShot(0, this, [this] { geometrieFest_ = geometrieFestGewuenscht_; });
@@ -102,11 +116,10 @@ void Form1Fenster::bildausrechnen(bool erzwingen) {
     QFont fest(QStringLiteral("Courier New"));
     fest.setStyleHint(QFont::TypeWriter);
     fest.setFixedPitch(true);
-    const int listenpx =
-        std::min(passend(proportional, QStringLiteral("Dienstalter nicht erforderlich"),
-                         static_cast<int>(listeBis * links - h), hoechste),
-                 passend(proportional, QStringLiteral("Mit LSt.jahresausgl. des AG im Dez."),
-                         static_cast<int>(rechteListeBis * rechts - h), hoechste));
+    const int listenpx = std::min(
+        listenschrift(proportional, true, static_cast<int>(listeBis * links - h) - 12, hoechste),
+        listenschrift(proportional, false, static_cast<int>(rechteListeBis * rechts - h) - 12,
+                      hoechste));
     const int wertpx = passend(fest, QStringLiteral("1.234.567,89+"),
                                static_cast<int>((wertBis - lszBis) * links - 8), hoechste);
     proportional.setPixelSize(listenpx);
@@ -130,6 +143,16 @@ void Form1Fenster::bildausrechnen(bool erzwingen) {
                                    : zelle(rechteListeBis + 0.01, 0.995, y, h, spaltenbreite));
         }
     }
+    // The switches grow and shrink with the rows.
+    const int kaestchenpx = std::clamp(static_cast<int>(h * 0.55), 8, 32);
+    if (kaestchenpx != kaestchenpx_) {
+        kaestchenpx_ = kaestchenpx;
+        const QString stil =
+            QStringLiteral("QCheckBox::indicator { width: %1px; height: %1px; }").arg(kaestchenpx);
+        for (auto& spalte : schalter_)
+            for (QCheckBox* box : spalte)
+                box->setStyleSheet(stil);
+    }
     const double kaestchen = (lszBis - listeBis) / 3;
     for (std::size_t art = 0; art < 6; ++art)
         for (int zeile = 7; zeile <= 19; ++zeile) {
@@ -150,8 +173,13 @@ void Form1Fenster::bildausrechnen(bool erzwingen) {
                                      static_cast<int>((wtpBis - listeBis) * links) - 4, hoechste));
     schalterkopf_->setFont(kopfschrift);
     schalterkopf_->setGeometry(zelle(listeBis, wtpBis, 6 * h, h, links));
-    bdaBeginn_->setFont(fest);
-    bdaBeginn_->setGeometry(zelle(listeBis + 0.005, lszBis, 1 * h, h, links));
+    // The service-age box holds "MM.19JJ" whole.
+    const QRect bdaOrt = zelle(listeBis + 0.005, lszBis, 1 * h, h, links);
+    QFont bdaSchrift = fest;
+    bdaSchrift.setPixelSize(
+        passend(fest, QStringLiteral("12.1999"), bdaOrt.width() - 10, hoechste));
+    bdaBeginn_->setFont(bdaSchrift);
+    bdaBeginn_->setGeometry(bdaOrt);
     QFont hinweisschrift = proportional;
     hinweisschrift.setPixelSize(std::max(6, static_cast<int>(h * 0.55)));
     panel3D6_->setFont(hinweisschrift);
@@ -201,6 +229,51 @@ void Form1Fenster::moveEvent(QMoveEvent* ereignis) {
     QMainWindow::moveEvent(ereignis);
     if (!geometrieFest_)
         geometriezeit_->start();
+}
+
+// The largest pixel size up to `groesste` at which the longest entry of every list of one
+// column, and the typed name of row 0, fits `breite` pixels.
+int Form1Fenster::listenschrift(QFont schrift, bool linke, int breite, int groesste) const {
+    constexpr int mass = 100; // measured at 100 pixels, then scaled
+    schrift.setPixelSize(mass);
+    const QFontMetrics metrik(schrift);
+    int laengste = 1;
+    QString probe;
+    const auto messen = [&](const QString& text) {
+        const int weite = metrik.horizontalAdvance(text);
+        if (weite > laengste) {
+            laengste = weite;
+            probe = text;
+        }
+    };
+    for (int zeile = linke ? 0 : 23; zeile <= (linke ? 22 : 45); ++zeile) {
+        const QComboBox* liste = zeilen_[static_cast<std::size_t>(zeile)].z;
+        if (liste == nullptr)
+            continue;
+        for (int i = 0; i < liste->count(); ++i)
+            messen(liste->itemText(i));
+        messen(liste->currentText());
+    }
+    // Glyph widths do not scale exactly: from the estimate down to the size that fits.
+    int px =
+        std::min(groesste, static_cast<int>(static_cast<double>(breite) * mass / laengste) + 1);
+    for (; px > 6; --px) {
+        schrift.setPixelSize(px);
+        if (QFontMetrics(schrift).horizontalAdvance(probe) <= breite)
+            break;
+    }
+    return std::max(px, 6);
+}
+
+// A window whose size a test or a picture holds keeps the normal state.
+void Form1Fenster::maximieren() {
+    if (!geometrieFestGewuenscht_)
+        setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void Form1Fenster::platzMerken() {
+    geometrieFest_ = false;
+    geometrieMerken();
 }
 
 // The window's place in twips into the display settings, which are written at once.

@@ -36,6 +36,7 @@ struct Aufruf {
     QString markiert;       // the preset mode for the records VON-BIS, for the picture
     QString menue;          // a menu entry clicked for the picture; a form it shows is taken
     QString suche;          // a name searched on page 22 for the picture
+    int hilfe = 0;          // a help topic whose window is the picture
 };
 
 Aufruf aufrufLesen(const QApplication& app) {
@@ -67,7 +68,10 @@ Aufruf aufrufLesen(const QApplication& app) {
     const QCommandLineOption suche(QStringLiteral("suche"),
                                    QStringLiteral("Namenssuche der Seite 22 für das Bild"),
                                    QStringLiteral("TEXT"));
-    p.addOptions({ordner, foto, groesse, seite, form, markiert, menue, suche});
+    const QCommandLineOption hilfe(QStringLiteral("hilfe"),
+                                   QStringLiteral("Hilfethema, dessen Fenster das Bild ist"),
+                                   QStringLiteral("KONTEXT"));
+    p.addOptions({ordner, foto, groesse, seite, form, markiert, menue, suche, hilfe});
     p.process(app);
     Aufruf a;
     a.ordner = p.isSet(ordner) ? p.value(ordner)
@@ -81,21 +85,34 @@ Aufruf aufrufLesen(const QApplication& app) {
     a.markiert = p.value(markiert);
     a.menue = p.value(menue);
     a.suche = p.value(suche);
+    a.hilfe = p.value(hilfe).toInt();
     return a;
 }
 
+// The picture of a run without --groesse shows the window where it opened; with it, the
+// window as the user sized it. Either way the run ends as a close does: the place is stored,
+// and the next start opens there.
 void fotografieren(lonvir::gui::Form1Fenster& fenster, lonvir::gui::Tablettanbindung& tablett,
-                   const Aufruf& a) {
+                   lonvir::gui::HilfeFenster& hilfe, const Aufruf& a) {
     fenster.geometrieFesthalten();
-    if (a.groesse.isValid())
+    if (a.groesse.isValid()) {
+        fenster.setWindowState(Qt::WindowNoState);
         fenster.resize(a.groesse);
+    }
     // A form that a page or a menu entry shows is the picture itself.
     static QPointer<QDialog> form;
     QObject::connect(&tablett, &lonvir::gui::Tablettanbindung::formGezeigt, &fenster,
                      [](QDialog* f) { form = f; });
-    QTimer::singleShot(500, &fenster, [&fenster, &tablett, a] {
+    QTimer::singleShot(500, &fenster, [&fenster, &tablett, &hilfe, a] {
         fenster.bildausrechnen(true);
         fenster.darstellen();
+        fenster.platzMerken();
+        if (a.hilfe > 0) {
+            hilfe.zeigen(a.hilfe);
+            QApplication::processEvents();
+            QApplication::exit(hilfe.grab().save(a.bildschirmfoto) ? 0 : 4);
+            return;
+        }
         if (a.seite > 0)
             tablett.seiteoeffnen(a.seite);
         const QStringList bereich = a.markiert.split(QLatin1Char('-'));
@@ -192,7 +209,7 @@ int main(int argc, char** argv) {
         start.close();
         fenster.show();
         if (!aufruf.bildschirmfoto.isEmpty())
-            fotografieren(fenster, tablett, aufruf);
+            fotografieren(fenster, tablett, hilfe, aufruf);
         return app.exec();
     } catch (const std::exception& fehler) {
         dialoge.elternSetzen(nullptr); // the window of the try block is gone

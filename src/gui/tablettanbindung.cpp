@@ -14,6 +14,7 @@
 #include "panels/seiten.h"
 #include "panels/tarife.h"
 #include "screen/uebertragung.h"
+#include "screen/uebertragungsmeldung.h"
 #include "screen/voreinstellmodus.h"
 
 #include <QApplication>
@@ -194,9 +195,12 @@ void Tablettanbindung::uebertragknopf(int von, int nach) {
         });
         return;
     }
-    // No recalculation and no refresh: the screen shows the old data.
-    ausfuehren(
-        [&] { uebertragen(s_, static_cast<std::int16_t>(von), static_cast<std::int16_t>(nach)); });
+    // No recalculation and no refresh: the screen shows the old data, the status line what
+    // was done.
+    ausfuehren([&] {
+        uebertragen(s_, static_cast<std::int16_t>(von), static_cast<std::int16_t>(nach));
+        f_.modell().bild.hinweis = uebertragungsmeldung(s_.aktuelleperson, von, nach);
+    });
 }
 
 void Tablettanbindung::formzeigen(const std::string& name) {

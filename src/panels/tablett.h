@@ -158,7 +158,10 @@ public:
     std::int16_t Comboaktiv = 0;
     std::int16_t Schirmsperre = 0; // -1 while a batch pass over the records runs
     bool wirdgeoeffnet = false;    // set while tablettoeffnen runs
-    bool gespeichert = false;      // the store mark of the form
+    // The page the panel shows; the page number may go back to 0 (the main screen's help)
+    // while the page stays in view.
+    std::int16_t gezeigteSeite = 0;
+    bool gespeichert = false; // the store mark of the form
     // A form the panel asks the face to show, e.g. "LStrTab" after a click on page 6, "Form2"
     // from page 66 with the choice of Combo(0), "Form3" from the menu.
     std::optional<std::string> formwunsch;
@@ -222,6 +225,8 @@ public:
     void Form_Unload();
     // Every way back to Form1: the panel hidden, the result column shown again.
     void schliessen();
+    // The page a click on the panel belongs to.
+    [[nodiscard]] int klickseite() const;
 
 private:
     void breiteregel();

@@ -182,23 +182,30 @@ void Tablett::text_GotFocus(int index) {
     fokus = {Tablettfokusart::text, index};
 }
 
+// The main screen's help sets the page number to 0 while the page stays in view: a click on
+// it then still belongs to the page shown, so that it closes and gives the result column back.
+int Tablett::klickseite() const {
+    return s.Tablettseite == 0 && sichtbar ? gezeigteSeite : s.Tablettseite;
+}
+
 void Tablett::zeile_Click(int index) {
     if (s.Tablettseite == 22 && index >= 10 && index <= 18)
         trefferwaehlen(*this, index);
-    if (erklaerseite(s.Tablettseite))
+    if (erklaerseite(klickseite()))
         schliessen();
 }
 
 void Tablett::kasten_Click(int) {
-    if (!erklaerseite(s.Tablettseite))
+    const int seite = klickseite();
+    if (!erklaerseite(seite))
         return;
     schliessen();
-    if (s.Tablettseite == 6)
+    if (seite == 6)
         formwunsch = "LStrTab";
 }
 
 void Tablett::Form_Click() {
-    if (erklaerseite(s.Tablettseite))
+    if (erklaerseite(klickseite()))
         schliessen();
 }
 

@@ -73,6 +73,7 @@ void Tablett::tablettoeffnen() {
     platzieren();
     // 5.
     verteilen();
+    gezeigteSeite = s.Tablettseite;
     // 6. The menu put up the hourglass; the page takes it down.
     sichtbar = true;
     sanduhr = false;

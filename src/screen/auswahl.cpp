@@ -167,6 +167,17 @@ void Form1::z_DblClick(int zeile) {
         hilfe->zeigen(*kontext);
 }
 
+void Form1::F1(int zeile) {
+    s.aktuellezeile = static_cast<std::int16_t>(zeile);
+    z_DblClick(zeile);
+}
+
+void Form1::Picture1_Click() {
+    // The help context of the menu entry MLonvir97, "Über LONVIR97".
+    if (hilfe)
+        hilfe->zeigen(20940);
+}
+
 int Form1::z_KeyPress(int zeile, int key) {
     if (zeile != 0 || key != taste::enter)
         return key;

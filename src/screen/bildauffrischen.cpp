@@ -77,6 +77,7 @@ void Form1::bildauffrischen() {
     s.aenderungssperre = 0;
     s.bildwirdgebaut = 0;
     bild.sanduhr = false;
+    tarifhinweis();
 }
 
 // The clamp of the refresh: above the last position the last, below 0 the first.

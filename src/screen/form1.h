@@ -107,6 +107,11 @@ public:
     void z_GotFocus(int zeile);
     void z_Click(int zeile);
     void z_DblClick(int zeile);
+    // F1 on the list or box of a row: the row becomes the current one and its help topic opens
+    // as with a double click on its list.
+    void F1(int zeile);
+    // The picture "LONVIR 97" in the head: the topic "Über LONVIR97".
+    void Picture1_Click();
     int z_KeyPress(int zeile, int taste);
     void z_KeyDown(int, int) {}
     void z_LostFocus(int) {}
@@ -121,6 +126,9 @@ public:
     int Form_KeyPress(int taste, bool zeilehatfokus);
     void Form_Click() {}
     void naechsterfocus();
+    // The status line after a run: says when the month is 0,00 for want of a tariff amount,
+    // and takes that word back once the month has one.
+    void tarifhinweis();
     void tastenauswerten() {}
     // The layer panels "I  N  F  O", "P  L  A  N", "R  E  A  L": the set of that layer.
     void SSPanel_Click(int schicht);

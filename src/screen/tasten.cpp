@@ -3,6 +3,7 @@
 #include "core/pfennig.h"
 #include "core/zeichen.h"
 #include "engine/berechnen.h"
+#include "engine/tarifluecke.h"
 #include "screen/form1.h"
 
 #include <cctype>
@@ -83,6 +84,9 @@ int Form1::t_KeyPress(int zeile, int key) {
         s.eingabe[zeile] = 0;
         zeilemalen(zeile);
         naechsterfocus();
+        // The reset stays as it is; the status line says why, so the entry is not lost unseen.
+        bild.hinweis = "Höchstens sieben Zeichen: " + text + " wurde verworfen, Zeile " +
+                       std::to_string(zeile) + " steht wieder auf 0,00.";
         return 0;
     }
     if (!durchgelassen(key))
@@ -161,6 +165,15 @@ void Form1::neuberechnen(int zeile) {
     nachrechnen(s);
     positionensetzen();
     schaltermalen();
+    tarifhinweis();
+}
+
+void Form1::tarifhinweis() {
+    static const std::string anfang = "Für diese Gruppe ist kein Tarifbetrag installiert";
+    if (const auto hinweis = tariflueckenhinweis(s))
+        bild.hinweis = *hinweis;
+    else if (bild.hinweis.rfind(anfang, 0) == 0)
+        bild.hinweis.clear();
 }
 
 void Form1::naechsterfocus() {
