@@ -1,5 +1,5 @@
 // Compiling the installation data, and seeding a new working folder from them.
-#include "start/installation/installieren.h"
+#include "installation/installieren.h"
 
 #include <benchmark/benchmark.h>
 

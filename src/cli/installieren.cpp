@@ -1,7 +1,7 @@
 // installieren: compile the installation sources into the binary files of a working folder.
 #include "cli/befehle.h"
 
-#include "start/installation/installieren.h"
+#include "installation/installieren.h"
 
 #include <ostream>
 

@@ -1,8 +1,8 @@
 // Printing a month: row, list position, list text, value and the screen's text of it.
 #include "cli/monatsausgabe.h"
 
+#include "core/betragstext.h"
 #include "core/cp1252.h"
-#include "screen/betragstext.h"
 
 #include <iomanip>
 #include <ostream>

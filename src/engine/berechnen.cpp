@@ -1,6 +1,7 @@
 // The calculation driver: a fixed order of steps from the tariff to the payment.
 #include "engine/berechnen.h"
 
+#include "core/laufzeitfehler.h"
 #include "core/pfennig.h"
 #include "engine/schritte.h"
 #include "engine/zeilensummen.h"
@@ -11,6 +12,29 @@ namespace lonvir {
 namespace {
 
 constexpr int jahresposition = 12;
+
+// Runs step `nummer` of the calculation; a run-time error in it learns the step on its way up.
+template <class Schritt> void schritt(int nummer, const char* name, Schritt&& rechnen) {
+    try {
+        rechnen();
+    } catch (Laufzeitfehler& f) {
+        f.schrittsetzen("Schritt " + std::to_string(nummer) + " (" + name + ")");
+        throw;
+    }
+}
+
+const char* schichtname(std::int16_t schicht) {
+    switch (schicht) {
+    case INFO:
+        return "INFO";
+    case PLAN:
+        return "PLAN";
+    case REAL:
+        return "REAL";
+    default:
+        return "";
+    }
+}
 
 bool ab1997Juli(const Sitzung& s) {
     return !s.ist1997() || s.merkmal[20] >= 6;
@@ -56,15 +80,17 @@ void faktorenbestimmen(Sitzung& s) {
 
 // Steps 6 to 13: from the allowance rows to the paid rows and their sums.
 void bruttozeilen(Sitzung& s) {
-    ueberleitungszulage(s);
-    vwlzeile(s);
-    urlaubsgeld(s);
-    zuwendung(s);
-    s.wert[16] = pf::gerundet(static_cast<double>(pf::mal(s.wert[4], s.wert[5])) / 100.0);
-    teilzeit(s);
-    teilzeitsumme(s);
-    zahlwertebestimmen(s);
-    viersummen(s);
+    schritt(6, "Überleitungszulage", [&] { ueberleitungszulage(s); });
+    schritt(7, "VWL", [&] { vwlzeile(s); });
+    schritt(8, "Urlaubsgeld", [&] { urlaubsgeld(s); });
+    schritt(9, "Zuwendung", [&] { zuwendung(s); });
+    schritt(10, "Überstunden und Teilzeit", [&] {
+        s.wert[16] = pf::gerundet(static_cast<double>(pf::mal(s.wert[4], s.wert[5])) / 100.0);
+        teilzeit(s);
+    });
+    schritt(11, "Summe der Bezüge", [&] { teilzeitsumme(s); });
+    schritt(12, "Zahlbeträge", [&] { zahlwertebestimmen(s); });
+    schritt(13, "Vier Summen", [&] { viersummen(s); });
 }
 
 void versorgung(Sitzung& s) {
@@ -143,15 +169,15 @@ void monatspeichern(Sitzung& s) {
 // Steps 14 to 24, from the pension step to the child benefit.
 void abzuege(Sitzung& s, int start) {
     if (start <= 14)
-        versorgung(s);
+        schritt(14, "Zusatzversorgung", [&] { versorgung(s); });
     if (start <= 24) {
-        steuerlohnbestimmen(s);
+        schritt(15, "Steuerpflichtiger Lohn", [&] { steuerlohnbestimmen(s); });
         if (s.merkmal[20] < jahresposition)
-            monatssteuer(s);
+            schritt(21, "Lohnsteuer des Monats", [&] { monatssteuer(s); });
         else
-            jahressumme(s);
-        arbeitgebersteuern(s);
-        kindergeld(s);
+            schritt(22, "Jahressumme", [&] { jahressumme(s); });
+        schritt(23, "Pauschale Steuern", [&] { arbeitgebersteuern(s); });
+        schritt(24, "Kindergeld", [&] { kindergeld(s); });
     }
 }
 
@@ -160,17 +186,21 @@ void abschluss(Sitzung& s) {
     if (s.personalart() == 18)
         ohnePersonalart(s);
     if (s.folgelauf == 0) {
-        versorgung(s);
-        sozialversicherung(s);
-        if (s.anzeige)
-            s.anzeige->tablettauffrischen();
+        schritt(29, "Versorgung und Sozialversicherung", [&] {
+            versorgung(s);
+            sozialversicherung(s);
+            if (s.anzeige)
+                s.anzeige->tablettauffrischen();
+        });
     }
-    s.wert[27] = pf::plus(s.lstwert[7], s.einmallohn);
-    s.wert[29] = s.svwert[14];
-    s.wert[28] = s.svwert[17];
+    schritt(30, "Steuer- und Versicherungsbrutto", [&] {
+        s.wert[27] = pf::plus(s.lstwert[7], s.einmallohn);
+        s.wert[29] = s.svwert[14];
+        s.wert[28] = s.svwert[17];
+    });
     // The year view is a sum of stored months and never overwrites December.
     if (s.startphase == 0 && s.merkmal[20] < jahresposition && s.jahressperre == 0)
-        monatspeichern(s);
+        schritt(31, "Monat speichern", [&] { monatspeichern(s); });
 }
 
 } // namespace
@@ -188,24 +218,29 @@ int startschritt(int code) {
 }
 
 void berechnen(Sitzung& s) {
-    zeile9schalten(s);
-    const int start = startschritt(s.aenderungscode);
-    if (start <= 2 && s.bruttomodus == 0)
-        tarifwerte(s);
-    if (start <= 5 && !(s.folgelauf == 1 && s.jahreslauf == 1)) {
-        eingabenuebernehmen(s);
-        faktorenbestimmen(s);
+    try {
+        zeile9schalten(s);
+        const int start = startschritt(s.aenderungscode);
+        if (start <= 2 && s.bruttomodus == 0)
+            schritt(2, "Tarifwerte", [&] { tarifwerte(s); });
+        if (start <= 5 && !(s.folgelauf == 1 && s.jahreslauf == 1)) {
+            schritt(4, "Eingaben übernehmen", [&] { eingabenuebernehmen(s); });
+            schritt(5, "Faktoren", [&] { faktorenbestimmen(s); });
+        }
+        if (start <= 13)
+            bruttozeilen(s);
+        abzuege(s, start);
+        if (start <= 25)
+            schritt(25, "Sozialversicherung", [&] { sozialversicherung(s); });
+        schritt(26, "Auszahlung", [&] { auszahlung(s); });
+        if (s.bruttomodus != 1)
+            abschluss(s);
+        if (s.anzeige)
+            s.anzeige->mauszeigerNormal();
+    } catch (Laufzeitfehler& f) {
+        f.ortsetzen(s.aktuelleperson, s.merkmal[20], s.jahr, schichtname(s.schicht));
+        throw;
     }
-    if (start <= 13)
-        bruttozeilen(s);
-    abzuege(s, start);
-    if (start <= 25)
-        sozialversicherung(s);
-    auszahlung(s);
-    if (s.bruttomodus != 1)
-        abschluss(s);
-    if (s.anzeige)
-        s.anzeige->mauszeigerNormal();
 }
 
 void nachrechnen(Sitzung& s) {

@@ -2,7 +2,7 @@
 #include "engine/monatladen.h"
 
 #include "engine/berechnen.h"
-#include "screen/stufenliste.h"
+#include "engine/stufenliste.h"
 #include "start/satzzugriff.h"
 
 namespace lonvir {

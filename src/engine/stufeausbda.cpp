@@ -3,7 +3,7 @@
 #include "core/pfennig.h"
 #include "engine/bdabeginn.h"
 #include "engine/schritte.h"
-#include "screen/stufenliste.h"
+#include "engine/stufenliste.h"
 
 #include <string_view>
 

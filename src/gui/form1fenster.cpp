@@ -2,6 +2,7 @@
 #include "gui/form1fenster.h"
 
 #include "core/laufzeitfehler.h"
+#include "core/programmende.h"
 #include "gui/farben.h"
 
 #include <QAbstractItemView>
@@ -275,11 +276,8 @@ void Form1Fenster::ausfuehren(const std::function<void()>& handler) {
     try {
         handler();
     } catch (const std::exception& fehler) {
-        // Overflow, a subscript out of range or a file error ends the program; the month's
-        // record is written once, at the end of a calculation, so nothing is half written.
         QApplication::restoreOverrideCursor();
-        QMessageBox::critical(this, QStringLiteral("Lonvir 97"), QString::fromUtf8(fehler.what()));
-        std::exit(3);
+        programmende(s_.dialoge, fehler);
     }
     QApplication::restoreOverrideCursor();
     laeuft_ = false;

@@ -1,5 +1,6 @@
 // lonvir97: the start form, the session on the working folder, the main form Form1.
 #include "core/laufzeitfehler.h"
+#include "core/programmende.h"
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
 #include "gui/passwortfenster.h"
@@ -192,9 +193,7 @@ int main(int argc, char** argv) {
             fotografieren(fenster, tablett, aufruf);
         return app.exec();
     } catch (const std::exception& fehler) {
-        QMessageBox::critical(nullptr, QStringLiteral("Lonvir 97"),
-                              QString::fromUtf8(fehler.what()));
-        std::cerr << fehler.what() << "\n";
-        return 3;
+        dialoge.elternSetzen(nullptr); // the window of the try block is gone
+        lonvir::programmende(&dialoge, fehler);
     }
 }

@@ -1,6 +1,7 @@
 // Wiring of the panel and the menu to the window Form1.
 #include "gui/tablettanbindung.h"
 
+#include "core/programmende.h"
 #include "engine/berechnen.h"
 #include "gui/farbenfenster.h"
 #include "gui/kvfenster.h"
@@ -156,8 +157,7 @@ void Tablettanbindung::ausfuehren(const std::function<void()>& handler) {
         handler();
     } catch (const std::exception& fehler) {
         QApplication::restoreOverrideCursor();
-        QMessageBox::critical(&f_, QStringLiteral("Lonvir 97"), QString::fromUtf8(fehler.what()));
-        std::exit(3);
+        programmende(s_.dialoge, fehler);
     }
     QApplication::restoreOverrideCursor();
     f_.darstellen();

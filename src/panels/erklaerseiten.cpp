@@ -1,7 +1,7 @@
 // Pages 6, 29 and 8 (supplementary pension): one row per working step of the engine, its
 // caption the text record at the page's base plus the step's position.
+#include "core/betragstext.h"
 #include "panels/seiten.h"
-#include "screen/betragstext.h"
 #include "start/texte.h"
 
 #include <cstdio>

@@ -5,6 +5,7 @@
 
 #include "core/feld.h"
 #include "core/hilfe.h"
+#include "core/seitenoeffner.h"
 #include "start/sitzung.h"
 
 #include <functional>
@@ -122,7 +123,7 @@ struct Tablettfokus {
 class Tablett;
 using Seitenbauer = std::function<void(Tablett&)>;
 
-class Tablett {
+class Tablett : public Seitenoeffner {
 public:
     Tablett(Sitzung& s, Form1lage& form, Hilfe* hilfe = nullptr);
     // One panel per main form: its builders keep a pointer to it.
@@ -187,6 +188,13 @@ public:
 
     // --- opening and clearing
     void tablettoeffnen();
+    // The menu's way in: the hourglass on, `Tablettseite` set, the page opened.
+    void seiteoeffnen(int nummer) override;
+    void formwuenschen(const std::string& name) override { formwunsch = name; }
+    void textbereichsetzen(std::int16_t von, std::int16_t bis) override {
+        textvon = von;
+        textbis = bis;
+    }
     void tablettleeren();
     // The driver's refresh of the open page after a run (pages 6, 8, 35, and the
     // social-insurance builders under 7, which no menu sets).

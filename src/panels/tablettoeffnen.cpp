@@ -57,6 +57,12 @@ void Tablett::seiteanmelden(int seite, Seitenbauer bauer) {
     bauer_.try_emplace(seite, std::move(bauer));
 }
 
+void Tablett::seiteoeffnen(int nummer) {
+    sanduhr = true;
+    s.Tablettseite = static_cast<std::int16_t>(nummer);
+    tablettoeffnen();
+}
+
 void Tablett::tablettoeffnen() {
     // 1.
     wirdgeoeffnet = true;

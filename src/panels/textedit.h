@@ -4,6 +4,7 @@
 
 #include "panels/hauptbildauftrag.h"
 #include "start/sitzung.h"
+#include "start/textmenues.h"
 
 #include <string>
 #include <vector>
@@ -11,16 +12,6 @@
 namespace lonvir {
 
 inline constexpr const char* texteditTitel = "Texte editieren";
-
-// A menu entry of "Txt": the range of text records it opens.
-struct Textmenue {
-    const char* name; // the control, e.g. "MNamen"
-    const char* text; // the caption
-    std::int16_t textvon;
-    std::int16_t textbis;
-};
-// The 21 entries in their order, from "Namen eingeben" to "Alles".
-[[nodiscard]] const std::vector<Textmenue>& textmenues();
 
 struct Textrollbalken {
     int wert = 0;

@@ -1,6 +1,6 @@
 // Page 8 for civil servants: how the levy for their pensions of the month comes about.
+#include "core/betragstext.h"
 #include "panels/seiten.h"
-#include "screen/betragstext.h"
 
 namespace lonvir {
 

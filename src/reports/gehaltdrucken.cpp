@@ -1,11 +1,11 @@
 // The pay statement: gross block, deductions and payment, employer's cost, closing texts.
 #include "reports/gehaltdrucken.h"
 
+#include "core/betragstext.h"
 #include "core/cp1252.h"
 #include "core/druckformat.h"
 #include "core/pfennig.h"
 #include "reports/druckzeilen.h"
-#include "screen/betragstext.h"
 #include "start/einstellungen.h"
 #include "start/jahressaetze.h"
 

@@ -1,5 +1,6 @@
 // The annual overview on paper: the three grids turned on their side, one printed line per
 // grid column, the non-cash benefits and side costs, the settings of each month, the remarks.
+#include "core/betragstext.h"
 #include "core/cp1252.h"
 #include "core/druckformat.h"
 #include "core/pfennig.h"
@@ -7,7 +8,6 @@
 #include "reports/druckzeilen.h"
 #include "reports/form3.h"
 #include "reports/merkmaltexte.h"
-#include "screen/betragstext.h"
 #include "start/jahressaetze.h"
 #include "start/satzzugriff.h"
 #include "start/texte.h"

@@ -3,7 +3,6 @@
 
 #include "screen/navigation.h"
 #include "start/einstellungen.h"
-#include "start/start.h"
 
 namespace lonvir {
 
@@ -34,33 +33,25 @@ Form1::~Form1() {
 }
 
 void Form1::Form_Load() {
-    bild.sanduhr = true;
-    s.aenderungssperre = -1;
-    listenfuellen();
-    namensliste();
-    s.aktuelleperson = 1;
-    // The 1998 entries of the menu wait until a 1998 set has been filled.
-    bild.jahr1998 = !s.ist1997() || s.ordner.laenge("L1998I.1") >= 1;
-    s.startphase = 0;
-    farbenanwenden();
-    jahresanzeige();
-    ortwiederherstellen();
-    s.aenderungssperre = 0;
-    bild.sanduhr = false;
+    hauptformladen(s, *this);
 }
 
 void Form1::laden() {
     Form_Load();
 }
 
-void Form1::jahresanzeige() {
-    bild.titel = fenstertitel(s);
+void Form1::zeilenlistenfuellen() {
+    listenfuellen();
+    namensliste();
 }
 
-// The place where the user stopped: person, month and layer of the settings of the year.
-void Form1::ortwiederherstellen() {
-    bild.aktiveSchicht = lonvir::ortwiederherstellen(s);
-    bildauffrischen();
+void Form1::jahresmenue() {
+    // The 1998 entries of the menu wait until a 1998 set has been filled.
+    bild.jahr1998 = !s.ist1997() || s.ordner.laenge("L1998I.1") >= 1;
+}
+
+void Form1::jahresanzeige() {
+    bild.titel = fenstertitel(s);
 }
 
 void Form1::Form_Activate() {

@@ -148,6 +148,8 @@ public:
     void sanduhr(bool an) override { bild.sanduhr = an; }
     void entladen() override { Form_Unload(); }
     void laden() override;
+    void zeilenlistenfuellen() override;
+    void jahresmenue() override;
 
 private:
     void listesetzen(int zeile, std::vector<std::string> eintraege);
@@ -162,7 +164,6 @@ private:
     bool jahresgehaltgesperrt();
     bool stufenfrage();
     void schalterclick(Schalterart art, int zeile, bool an);
-    void ortwiederherstellen();
 
     Anzeige* vorherigeAnzeige_;
 };

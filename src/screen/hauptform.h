@@ -24,10 +24,21 @@ public:
     virtual void zeilenfarben() = 0;
     virtual void jahresanzeige() = 0;
     virtual void sanduhr(bool an) = 0;
-    // Form_Unload and Form_Load of the main form.
+    // Form_Unload and Form_Load of the main form; the load is `hauptformladen` over the
+    // two steps below.
     virtual void entladen() = 0;
     virtual void laden() = 0;
+    // Step 2 of the load: the row lists, with the names of the person list.
+    virtual void zeilenlistenfuellen() = 0;
+    // Step 4 of the load: the 1998 entries of the menu, enabled once a 1998 set is filled.
+    virtual void jahresmenue() = 0;
 };
+
+// The load of the main form, one sequence for the window and for callers without one: the
+// hourglass and the change lock on, the row lists, person 1 as the working start, the year
+// menu, the row colours, the caption, the place where the user stopped (person, month and
+// layer of the settings) with its refresh, the lock and the hourglass off.
+void hauptformladen(Sitzung& s, Hauptform& form);
 
 // The main form for callers without a window: the refresh is the load of the month with its
 // run; the panels, colours, caption and hourglass are only noted.
@@ -42,6 +53,9 @@ public:
     void sanduhr(bool an) override { sanduhrAn = an; }
     void entladen() override;
     void laden() override;
+    // Without a window the row lists are the count of names in the text table.
+    void zeilenlistenfuellen() override;
+    void jahresmenue() override {}
 
     int aktiveSchicht = 0;
     bool sanduhrAn = false;

@@ -1,9 +1,9 @@
 // The menu bar of Form1 in the designed order, and what its entries do.
 #include "screen/hauptmenue.h"
 
-#include "panels/textedit.h"
 #include "screen/navigation.h"
 #include "screen/personalloeschen.h"
+#include "start/textmenues.h"
 
 namespace lonvir {
 
@@ -127,9 +127,7 @@ void seiteoeffnen(Menueziel& z, int nummer) {
                 "Die Darstellung der Teilzeitbeträge ist nur bei einzelnen Monaten möglich.");
         return;
     }
-    z.tablett.sanduhr = true;
-    z.s.Tablettseite = static_cast<std::int16_t>(nummer);
-    z.tablett.tablettoeffnen();
+    z.tablett.seiteoeffnen(nummer);
 }
 
 void zeilenhilfezeigen(Menueziel& z) {
@@ -231,15 +229,14 @@ void menueklick(Menueziel& z, const std::string& name) {
         zeilenhilfezeigen(z);
         break;
     case Menueaktion::kv:
-        z.tablett.formwunsch = "KV";
+        z.tablett.formwuenschen("KV");
         break;
     case Menueaktion::texte:
         for (const Textmenue& m : textmenues())
             if (p->name == m.name) {
-                z.tablett.textvon = m.textvon;
-                z.tablett.textbis = m.textbis;
+                z.tablett.textbereichsetzen(m.textvon, m.textbis);
             }
-        z.tablett.formwunsch = "Textedit";
+        z.tablett.formwuenschen("Textedit");
         break;
     case Menueaktion::form:
         // MJahr: page 39 marks the annual overview, shown with the current person.

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/hilfe.h"
-#include "panels/tablett.h"
+#include "core/seitenoeffner.h"
 #include "screen/hauptform.h"
 
 #include <optional>
@@ -49,7 +49,7 @@ struct Menuepunkt {
 struct Menueziel {
     Sitzung& s;
     Hauptform& form;
-    Tablett& tablett;
+    Seitenoeffner& tablett;
     Hilfe* hilfe = nullptr;
     bool beendet = false;
     // The form a click asks the window to show, e.g. "Form14".

@@ -3,7 +3,6 @@
 
 #include "engine/monatladen.h"
 #include "start/einstellungen.h"
-#include "start/start.h"
 #include "start/texte.h"
 
 namespace lonvir {
@@ -30,17 +29,11 @@ void Kernform::entladen() {
 }
 
 void Kernform::laden() {
-    sanduhr(true);
-    s_.aenderungssperre = -1;
+    hauptformladen(s_, *this);
+}
+
+void Kernform::zeilenlistenfuellen() {
     s_.anzahlnamen = personenzaehlen(s_);
-    s_.startphase = 0;
-    zeilenfarben();
-    jahresanzeige();
-    const int schicht = ortwiederherstellen(s_);
-    aktiveSchicht = schicht;
-    s_.aenderungssperre = 0;
-    bildauffrischen();
-    sanduhr(false);
 }
 
 } // namespace lonvir

@@ -1,27 +1,13 @@
-// The step list of row 7: which text records it shows for a staff class and pay group.
+// The texts of the step list of row 7 as the screen shows them; the list itself is a pay rule.
 #pragma once
 
+#include "engine/stufenliste.h"
 #include "start/sitzung.h"
 
 #include <string>
 #include <vector>
 
 namespace lonvir {
-
-// The last pay group of a staff class whose step list cuts the group; -1 for no cut.
-[[nodiscard]] int letztestufengruppe(int personalart);
-
-// The list for a staff class and group; `reform` is July 1997 or later. Classes whose list is
-// not rebuilt give `vorher` back, and a list without an end of its own keeps the end of `vorher`.
-[[nodiscard]] Stufenliste stufenlistefuer(int personalart, int gruppe, bool reform,
-                                          const Stufenliste& vorher);
-
-// Rebuilds z(7) for the person: cuts the group, sets the list, then the step from the service
-// age (not for Besoldungsordnung B, whose list is the fixed pay alone).
-void stufenliste(Sitzung& s);
-
-// The refresh's clamp of row 7: above the last list position the last, below 0 the 0.
-void stufeklemmen(Sitzung& s);
 
 // The entries of z(7) as the screen shows them.
 [[nodiscard]] std::vector<std::string> stufentexte(Sitzung& s);

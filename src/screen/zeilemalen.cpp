@@ -1,5 +1,5 @@
 // Painting the rows: the value boxes, the switch columns and the row colours.
-#include "screen/betragstext.h"
+#include "core/betragstext.h"
 #include "screen/form1.h"
 #include "start/einstellungen.h"
 

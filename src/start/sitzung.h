@@ -6,10 +6,10 @@
 #include "core/dialoge.h"
 #include "core/feld.h"
 #include "core/satzdatei.h"
-#include "engine/lohnsteuer.h"
 #include "records/dimsatz.h"
 #include "records/personalsatz.h"
 #include "records/voeinsatz.h"
+#include "start/lohnsteuerlauf.h"
 
 #include <array>
 #include <cstdint>

@@ -3,8 +3,8 @@
 
 #include "core/pfennig.h"
 #include "start/dateisatz.h"
+#include "start/einsetzen.h"
 #include "start/einstellungen.h"
-#include "start/installation/installieren.h"
 #include "start/personenanlegen.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // The pay step from the start of the service age: two-year rhythm, clamp, ladder from July 1997.
 #include "engine/berechnen.h"
 #include "engine/schritte.h"
-#include "screen/stufenliste.h"
+#include "engine/stufenliste.h"
 #include "start/satzzugriff.h"
 #include "testhilfe.h"
 

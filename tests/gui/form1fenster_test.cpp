@@ -1,7 +1,7 @@
 // The window Form1 without a display: keys and clicks on its widgets reach the model, the
 // store and the rows on the screen.
+#include "core/betragstext.h"
 #include "gui/form1fenster.h"
-#include "screen/betragstext.h"
 #include "start/satzzugriff.h"
 #include "start/start.h"
 #include "testhilfe.h"

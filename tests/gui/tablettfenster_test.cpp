@@ -2,10 +2,10 @@
 // employee's wage tax, supplementary pension, social insurance and part-time pages opened
 // from the menu bar, their rows against the engine's working steps, the ways back, the
 // transfer buttons and the help window.
+#include "core/betragstext.h"
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
 #include "gui/tablettanbindung.h"
-#include "screen/betragstext.h"
 #include "start/dateisatz.h"
 #include "start/satzzugriff.h"
 #include "start/start.h"

@@ -1,10 +1,10 @@
 // The pages that explain a month (6, 8, 29, 35) and the remark card (23), built from the
 // engine's working steps and the text table, and their refresh by a run.
+#include "core/betragstext.h"
 #include "engine/berechnen.h"
 #include "engine/monatladen.h"
 #include "panels/seiten.h"
 #include "panels/tablettanzeige.h"
-#include "screen/betragstext.h"
 #include "start/jahressaetze.h"
 #include "start/satzzugriff.h"
 #include "start/texte.h"

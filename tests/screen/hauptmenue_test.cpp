@@ -1,6 +1,7 @@
 // The menu bar of Form1: order, captions, the year entries, and what the clicks do.
 #include "formhilfe.h"
 #include "panels/seiten.h"
+#include "panels/tablett.h"
 #include "screen/hauptmenue.h"
 #include "start/start.h"
 #include "testhilfe.h"

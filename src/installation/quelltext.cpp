@@ -1,5 +1,5 @@
 // Tab-separated sources and exact decimal amounts.
-#include "start/installation/quelltext.h"
+#include "installation/quelltext.h"
 
 #include "core/laufzeitfehler.h"
 

@@ -1,13 +1,13 @@
 // Writing the help pages.
-#include "start/installation/hilfeseiten.h"
+#include "installation/hilfeseiten.h"
 
 #include "core/cp1252.h"
 #include "core/laufzeitfehler.h"
 #include "core/satzdatei.h"
+#include "installation/quelltext.h"
+#include "installation/tariftabellen.h"
 #include "records/tarifsatz.h"
 #include "records/textsatz.h"
-#include "start/installation/quelltext.h"
-#include "start/installation/tariftabellen.h"
 
 #include <array>
 #include <fstream>

@@ -1,11 +1,11 @@
 // Compiling and placing the sample staff.
-#include "start/installation/musterpersonal.h"
+#include "installation/musterpersonal.h"
 
 #include "core/cp1252.h"
 #include "engine/monatladen.h"
+#include "installation/quelltext.h"
 #include "records/bytes.h"
 #include "start/einstellungen.h"
-#include "start/installation/quelltext.h"
 
 namespace lonvir::installation {
 

@@ -1,5 +1,5 @@
 // The screen's amount texts.
-#include "screen/betragstext.h"
+#include "core/betragstext.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // Compiling the text table.
-#include "start/installation/texttabelle.h"
+#include "installation/texttabelle.h"
 
 #include "core/cp1252.h"
 #include "core/satzdatei.h"
+#include "installation/quelltext.h"
 #include "records/bytes.h"
 #include "records/textsatz.h"
-#include "start/installation/quelltext.h"
 
 #include <array>
 

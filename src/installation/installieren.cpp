@@ -1,17 +1,16 @@
 // Compiling the installation data into a working folder.
-#include "start/installation/installieren.h"
+#include "installation/installieren.h"
 
 #include "core/dialoge.h"
 #include "core/laufzeitfehler.h"
-#include "start/installation/hilfeseiten.h"
-#include "start/installation/musterpersonal.h"
-#include "start/installation/tariftabellen.h"
-#include "start/installation/texttabelle.h"
-#include "start/installation/vorgaben.h"
+#include "installation/hilfeseiten.h"
+#include "installation/musterpersonal.h"
+#include "installation/tariftabellen.h"
+#include "installation/texttabelle.h"
+#include "installation/vorgaben.h"
 #include "start/start.h"
 
 #include <string>
-#include <vector>
 
 namespace lonvir::installation {
 
@@ -60,41 +59,6 @@ void installieren(const fs::path& quellen, const fs::path& ziel) {
                      ziel / "Lonvir97.dim");
     bestandanlegen(ziel, personal);
     hilfeschreiben(quellen / "hilfe", ziel);
-}
-
-bool ohnebestand(const Arbeitsordner& ordner) {
-    std::vector<std::string> namen = {"Texte.txt", "Lonvir97.dim", "Lonvir97.voe"};
-    for (int jahr : {1997, 1998}) {
-        for (int n = 1; n <= 4; ++n)
-            namen.push_back(tarifdateiname(jahr, n));
-        for (const char* schicht : {"I", "P", "R"})
-            for (int monat = 1; monat <= 13; ++monat)
-                namen.push_back("L" + std::to_string(jahr) + schicht + "." + std::to_string(monat));
-    }
-    for (const std::string& name : namen)
-        if (ordner.vorhanden(name))
-            return false;
-    return true;
-}
-
-bool einsetzen(const fs::path& installation, const Arbeitsordner& ordner) {
-    if (!fs::is_directory(installation))
-        return false;
-    ordner.anlegen();
-    bool kopiert = false;
-    for (const fs::directory_entry& e : fs::recursive_directory_iterator(installation)) {
-        const fs::path ziel = ordner.ordner() / fs::relative(e.path(), installation);
-        std::error_code fehler;
-        if (e.is_directory()) {
-            fs::create_directories(ziel, fehler);
-        } else if (e.is_regular_file()) {
-            fs::copy_file(e.path(), ziel, fs::copy_options::overwrite_existing, fehler);
-            kopiert = true;
-        }
-        if (fehler)
-            throw Dateifehler(ziel.string(), "Installationsdatei kann nicht angelegt werden");
-    }
-    return kopiert;
 }
 
 } // namespace lonvir::installation

@@ -1,8 +1,8 @@
 // Compiling the pay tables.
-#include "start/installation/tariftabellen.h"
+#include "installation/tariftabellen.h"
 
 #include "core/satzdatei.h"
-#include "start/installation/quelltext.h"
+#include "installation/quelltext.h"
 
 #include <array>
 

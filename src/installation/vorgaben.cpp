@@ -1,11 +1,11 @@
 // Compiling the preset settings.
-#include "start/installation/vorgaben.h"
+#include "installation/vorgaben.h"
 
 #include "core/cp1252.h"
 #include "core/satzdatei.h"
+#include "installation/quelltext.h"
 #include "records/bytes.h"
 #include "start/einstellungen.h"
-#include "start/installation/quelltext.h"
 #include "start/sitzung.h"
 
 #include <string>

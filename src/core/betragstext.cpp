@@ -1,5 +1,5 @@
 // Formatting amounts for the rows of the main screen.
-#include "screen/betragstext.h"
+#include "core/betragstext.h"
 
 #include <cstdlib>
 

@@ -1,5 +1,5 @@
-// The installation data: the readable sources of data/ compiled into the binary files of a
-// working folder, and the seeding of a new working folder from them.
+// The seeding of a new working folder: a copy of the compiled installation data, made only
+// where the folder holds no store yet.
 #pragma once
 
 #include "core/arbeitsordner.h"
@@ -7,12 +7,6 @@
 #include <filesystem>
 
 namespace lonvir::installation {
-
-// Compiles the sources in `quellen` (the project's data/ folder) into `ziel`, which must
-// not yet hold a store: Texte.txt, Lonvir97.1tr to .4tr, Lonvir98.1tr to .4tr,
-// Lonvir97.dim, Lonvir97.voe, the store of 1997 as the first start creates it with the
-// sample staff in layer INFO, and the help pages in hilfe/.
-void installieren(const std::filesystem::path& quellen, const std::filesystem::path& ziel);
 
 // A working folder holds no store while no file of the set is there: text table, settings,
 // tariff files, month and year files of any layer and year (names matched without regard
