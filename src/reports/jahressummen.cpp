@@ -87,9 +87,11 @@ Jahressummen jahressummen(Sitzung& s, const Kostenstellenwahl& wahl) {
     j.kostenstelle = getrimmt(wahl.kostenstelle);
     // 2.
     Kostenstellentexte texte(s);
-    for (int p = 1; p <= j.bedienstetenzahl; ++p) {
-        Personenwerte& z = j.monatswerte[static_cast<std::size_t>(p - 1)];
-        for (int m = 1; m <= 12; ++m) {
+    // Month by month, each file read from front to back; every cell is its own, so the order
+    // of the reads changes no sum.
+    for (int m = 1; m <= 12; ++m) {
+        for (int p = 1; p <= j.bedienstetenzahl; ++p) {
+            Personenwerte& z = j.monatswerte[static_cast<std::size_t>(p - 1)];
             const Personalsatz satz = personalsatzlesen(s, m, p);
             // 2.1 A plain substring search, with case: a short choice matches longer names.
             const bool zaehlt =

@@ -31,7 +31,12 @@ struct Uebersichten {
         starten(s);
         f = std::make_unique<gui::Form1Fenster>(s, dialoge, nullptr);
         a = std::make_unique<gui::Tablettanbindung>(*f, s, nullptr);
-        u = std::make_unique<gui::Uebersichtanbindung>(*f, *a, s, gui::Druckauftrag{});
+        // The preview stands in as a recording printer.
+        u = std::make_unique<gui::Uebersichtanbindung>(
+            *f, *a, s, [this](const QString& titel, const std::function<void(Drucker&)>& bericht) {
+                titel_.push_back(titel.toStdString());
+                bericht(gedruckt);
+            });
         f->geometrieFesthalten();
         f->laden();
         a->menueaufbauen();
@@ -61,6 +66,8 @@ struct Uebersichten {
     std::unique_ptr<gui::Form1Fenster> f;
     std::unique_ptr<gui::Tablettanbindung> a;
     std::unique_ptr<gui::Uebersichtanbindung> u;
+    Merkdrucker gedruckt;
+    std::vector<std::string> titel_;
 };
 
 TEST(Uebersichtfenster, TheMenuEntryJahrOpensTheYearOfTheCurrentPersonInTheEmployerView) {
@@ -132,6 +139,24 @@ TEST(Uebersichtfenster, PageVkeLeadsToTheTotalsAndAPersonsRowToTheYear) {
     ASSERT_NE(w.u->form3(), nullptr);
     EXPECT_EQ(w.u->form3()->modell().jahresperson, 2);
     EXPECT_TRUE(w.u->form3()->isVisible());
+}
+
+TEST(Uebersichtfenster, DruckenSendsTheOverviewAndBothListsToThePrinter) {
+    Uebersichten w;
+    w.menue("MJahr");
+    w.u->form3()->knopf(3)->click();
+    ASSERT_EQ(w.gedruckt.dokumente.size(), 1u);
+    EXPECT_EQ(w.gedruckt.dokumente[0].ausrichtung, querformat);
+    EXPECT_EQ(w.titel_[0], "Schneider, Petra    - Monatsgehälter 1997 und Arbeitgeberaufwand");
+    w.menue("MVKE");
+    w.a->ansicht()->knopf(4)->click();
+    QApplication::processEvents();
+    ASSERT_NE(w.u->form2(), nullptr);
+    w.u->form2()->knopf(1)->click();
+    w.u->form2()->knopf(2)->click();
+    ASSERT_EQ(w.gedruckt.dokumente.size(), 3u);
+    EXPECT_EQ(w.titel_[1], "Gehälterliste");
+    EXPECT_EQ(w.titel_[2], "Monatsübersicht");
 }
 
 } // namespace
