@@ -15,7 +15,8 @@ namespace {
 const char* const aufruf =
     "Aufruf: lonvir97-cli BEFEHL [--ordner DIR] [--jahr 1997|1998] [--schicht INFO|PLAN|REAL]\n"
     "                    [--json] [--ja|--nein] ...\n"
-    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, installieren\n";
+    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, jahreswechsel,\n"
+    "         installieren\n";
 
 std::filesystem::path standardordner() {
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
@@ -47,7 +48,7 @@ constexpr Befehl befehle[] = {
     {"anlegen", anlegen, true},         {"zeigen", zeigen, true},
     {"setzen", setzen, true},           {"satz", satz, true},
     {"uebertragen", uebertragen, true}, {"lohnsteuer", lohnsteuer, false},
-    {"tabelle", tabelle, false},
+    {"tabelle", tabelle, false},        {"jahreswechsel", jahreswechsel, true},
 };
 
 const Befehl* befehlVon(const std::string& name) {

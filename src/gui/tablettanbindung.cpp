@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
@@ -40,6 +41,15 @@ Tablettanbindung::Tablettanbindung(Form1Fenster& fenster, Sitzung& s, Hilfe* hil
         });
     });
     connect(&f_, &Form1Fenster::bemerkungGeklickt, this, [this] { seiteoeffnen(23); });
+    // A page that works long (the year change) shows its labels as they move; the window is
+    // repainted and serves its events, but takes no input until the page is done.
+    t_.zwischendurch = [this] {
+        if (zwischendurch_.isValid() && zwischendurch_.elapsed() < 40)
+            return;
+        zwischendurch_.start();
+        darstellen();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    };
 }
 
 Tablettanbindung::~Tablettanbindung() {
@@ -133,7 +143,8 @@ void Tablettanbindung::menueklick(const std::string& name) {
         QApplication::exit(0);
     // A change of year may check and enable other entries: the bar is built again once
     // this click is over.
-    if (p && (p->aktion == Menueaktion::jahr || p->aktion == Menueaktion::personalloeschen))
+    if (p && (p->aktion == Menueaktion::jahr || p->aktion == Menueaktion::personalloeschen ||
+              p->aktion == Menueaktion::jahreswechsel))
         QTimer::singleShot(0, this, [this] { menueaufbauen(); });
 }
 

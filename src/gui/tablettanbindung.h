@@ -8,6 +8,7 @@
 #include "panels/tablett.h"
 #include "screen/hauptmenue.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 
 #include <memory>
@@ -48,6 +49,7 @@ private:
     Menueziel ziel_;
     TablettFenster* ansicht_ = nullptr;
     bool neuzeichnen_ = false;
+    QElapsedTimer zwischendurch_;
 };
 
 } // namespace lonvir::gui

@@ -161,6 +161,9 @@ public:
     Feld<std::int32_t, 0, 27> umlagewert;
     // The text z(row) shows on the main screen; the screen model supplies it.
     std::function<std::string(int)> zeilenname;
+    // Called by a page that works long (the year change) between two steps: the window
+    // shows the labels as they stand and serves its events.
+    std::function<void()> zwischendurch;
 
     // --- opening and clearing
     void tablettoeffnen();

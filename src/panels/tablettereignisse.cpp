@@ -60,6 +60,8 @@ void Tablett::schliessen() {
 void Tablett::Command1_Click() {
     if (s.Tablettseite == 23)
         jahreswertespeichern(*this);
+    else if (s.Tablettseite == 67)
+        versionuebernehmen(*this);
 }
 
 void Tablett::command2_Click() {

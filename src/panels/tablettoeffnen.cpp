@@ -24,6 +24,8 @@ Tablett::Tablett(Sitzung& sitzung, Form1lage& f, Hilfe* h) : s(sitzung), form(f)
         sozialbetraege(t);
     };
     bauer_[35] = teilzeitseite;
+    bauer_[47] = jahresuebertrag;
+    bauer_[67] = versionsseite;
     zeilenname = [this](int z) { return zeilenbezeichnung(s, z); };
 }
 

@@ -3,6 +3,7 @@
 
 #include "screen/navigation.h"
 #include "screen/personalloeschen.h"
+#include "transfer/jahreswechsel.h"
 
 namespace lonvir {
 
@@ -40,9 +41,14 @@ Menuepunkt jahresmenue(const Sitzung& s, int jahr, bool jahr1998) {
     if (jahr == 1998) {
         wahl.aktiv = jahr1998;
         loeschen.aktiv = jahr1998;
+        return menue(
+            "M98", "98",
+            {eintrag("MJahreswechsel", "Dez 97  >  Jan 98...", Menueaktion::jahreswechsel, 47),
+             std::move(wahl), std::move(loeschen)});
     }
-    return menue(jahr == 1997 ? "M97" : "M98", jahr == 1997 ? "97" : "98",
-                 {std::move(wahl), std::move(loeschen)});
+    return menue("M97", "97",
+                 {seite("MWechel_96_97", "Version96 > Version97 ...", 67), std::move(wahl),
+                  std::move(loeschen)});
 }
 
 std::vector<Menuepunkt> tabellenthemen() {
@@ -121,8 +127,8 @@ void zeilenhilfezeigen(Menueziel& z) {
 } // namespace
 
 std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
-    // The 1998 entries wait until a set of 1998 has been filled.
-    const bool jahr1998 = !s.ist1997() || s.ordner.laenge("L1998I.1") >= 1;
+    // The 1998 entries wait until a set of 1998 has been filled or a year change has run.
+    const bool jahr1998 = !s.ist1997() || s.jahr1998freigegeben || s.ordner.laenge("L1998I.1") >= 1;
     return {
         menue("MDatei", "Wie", {eintrag("MBeenden", "Beenden", Menueaktion::beenden, 0)}),
         jahresmenue(s, 1997, jahr1998),
@@ -188,6 +194,10 @@ void menueklick(Menueziel& z, const std::string& name) {
         break;
     case Menueaktion::zeilenhilfe:
         zeilenhilfezeigen(z);
+        break;
+    case Menueaktion::jahreswechsel:
+        if (jahreswechselfragen(z.s))
+            seiteoeffnen(z, p->zahl);
         break;
     case Menueaktion::keine:
         break;

@@ -20,6 +20,7 @@ enum class Menueaktion {
     personalloeschen, // deletes the persons of year `zahl`
     beenden,          // MBeenden
     zeilenhilfe,      // MHilfe: the help of the current row
+    jahreswechsel,    // MJahreswechsel: the questions, then page 47
 };
 
 struct Menuepunkt {
