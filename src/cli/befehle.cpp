@@ -15,8 +15,8 @@ namespace {
 const char* const aufruf =
     "Aufruf: lonvir97-cli BEFEHL [--ordner DIR] [--jahr 1997|1998] [--schicht INFO|PLAN|REAL]\n"
     "                    [--json] [--ja|--nein] ...\n"
-    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, jahreswechsel,\n"
-    "         installieren\n";
+    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, einstellungen,\n"
+    "         jahreswechsel, installieren\n";
 
 std::filesystem::path standardordner() {
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
@@ -45,10 +45,15 @@ struct Befehl {
 
 // The wage-tax run and the table band compute from their options alone.
 constexpr Befehl befehle[] = {
-    {"anlegen", anlegen, true},         {"zeigen", zeigen, true},
-    {"setzen", setzen, true},           {"satz", satz, true},
-    {"uebertragen", uebertragen, true}, {"lohnsteuer", lohnsteuer, false},
-    {"tabelle", tabelle, false},        {"jahreswechsel", jahreswechsel, true},
+    {"anlegen", anlegen, true},
+    {"zeigen", zeigen, true},
+    {"setzen", setzen, true},
+    {"satz", satz, true},
+    {"uebertragen", uebertragen, true},
+    {"lohnsteuer", lohnsteuer, false},
+    {"tabelle", tabelle, false},
+    {"einstellungen", einstellungen, true},
+    {"jahreswechsel", jahreswechsel, true},
 };
 
 const Befehl* befehlVon(const std::string& name) {
