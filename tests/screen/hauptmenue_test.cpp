@@ -39,10 +39,12 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
                                         "Weihnachtsgeld-Quote ...", "Beenden"}));
     EXPECT_EQ(leiste[0].punkte.back().name, "MBeenden");
     EXPECT_EQ(texte(leiste[1].punkte),
-              (std::vector<std::string>{"Berechnungen für 1997", "Tarifstruktur 1997 festlegen",
+              (std::vector<std::string>{"Version96 > Version97 ...", "Berechnungen für 1997",
+                                        "Tarifstruktur 1997 festlegen",
                                         "1997er Personaldaten löschen ..."}));
     EXPECT_EQ(texte(leiste[2].punkte),
-              (std::vector<std::string>{"Berechnungen für 1998", "Tarifstruktur 1998 festlegen",
+              (std::vector<std::string>{"Dez 97  >  Jan 98...", "Berechnungen für 1998",
+                                        "Tarifstruktur 1998 festlegen",
                                         "1998er Personaldaten löschen ..."}));
     EXPECT_EQ(leiste[3].name, "MTeilzeit");
     EXPECT_EQ(leiste[3].zahl, 35);

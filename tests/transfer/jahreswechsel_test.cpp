@@ -11,8 +11,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <ctime>
 #include <fcntl.h>
 #include <fstream>
+#include <optional>
 #include <sys/stat.h>
 
 namespace lonvir {
@@ -87,6 +90,23 @@ TEST(Jahreswechselfragen, OhneBestand1998KeineWarnung) {
 }
 
 TEST(Jahreswechselfragen, VorhandenerBestand1998WirdNurNachDerWarnungMitDatumUeberschrieben) {
+    // The date is shown in local time; the test pins the zone of a German pay office.
+    struct Zeitzone {
+        Zeitzone() {
+            if (const char* alt = std::getenv("TZ"))
+                vorher = alt;
+            ::setenv("TZ", "Europe/Berlin", 1);
+            ::tzset();
+        }
+        ~Zeitzone() {
+            if (vorher)
+                ::setenv("TZ", vorher->c_str(), 1);
+            else
+                ::unsetenv("TZ");
+            ::tzset();
+        }
+        std::optional<std::string> vorher;
+    } zone;
     Bestand b;
     const auto januar = b.s.ordner.pfad("L1998I.1");
     dateischreiben(januar, std::string(541, 'x'));
