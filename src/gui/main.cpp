@@ -11,8 +11,10 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
@@ -28,6 +30,8 @@ struct Aufruf {
     int seite = 0;          // a page of the panel opened for the picture
     QString form;           // a form shown for the picture: Form14 or Password
     QString markiert;       // the preset mode for the records VON-BIS, for the picture
+    QString menue;          // a menu entry clicked for the picture; a form it shows is taken
+    QString suche;          // a name searched on page 22 for the picture
 };
 
 Aufruf aufrufLesen(const QApplication& app) {
@@ -45,6 +49,9 @@ Aufruf aufrufLesen(const QApplication& app) {
     const QCommandLineOption seite(QStringLiteral("seite"),
                                    QStringLiteral("Seite des Tabletts für das Bild"),
                                    QStringLiteral("N"));
+    const QCommandLineOption menue(QStringLiteral("menue"),
+                                   QStringLiteral("Menüpunkt für das Bild, z. B. M_KV"),
+                                   QStringLiteral("NAME"));
     const QCommandLineOption form(QStringLiteral("form"),
                                   QStringLiteral("Form für das Bild: Form14 oder Password"),
                                   QStringLiteral("NAME"));
@@ -52,7 +59,10 @@ Aufruf aufrufLesen(const QApplication& app) {
         QStringLiteral("voreinstellung"),
         QStringLiteral("Hauptbild im Voreinstellungsmodus für die Datensätze VON-BIS"),
         QStringLiteral("VON-BIS"));
-    p.addOptions({ordner, foto, groesse, seite, form, markiert});
+    const QCommandLineOption suche(QStringLiteral("suche"),
+                                   QStringLiteral("Namenssuche der Seite 22 für das Bild"),
+                                   QStringLiteral("TEXT"));
+    p.addOptions({ordner, foto, groesse, seite, form, markiert, menue, suche});
     p.process(app);
     Aufruf a;
     a.ordner = p.isSet(ordner) ? p.value(ordner)
@@ -64,6 +74,8 @@ Aufruf aufrufLesen(const QApplication& app) {
     a.seite = p.value(seite).toInt();
     a.form = p.value(form);
     a.markiert = p.value(markiert);
+    a.menue = p.value(menue);
+    a.suche = p.value(suche);
     return a;
 }
 
@@ -72,6 +84,10 @@ void fotografieren(lonvir::gui::Form1Fenster& fenster, lonvir::gui::Tablettanbin
     fenster.geometrieFesthalten();
     if (a.groesse.isValid())
         fenster.resize(a.groesse);
+    // A form that a page or a menu entry shows is the picture itself.
+    static QPointer<QDialog> form;
+    QObject::connect(&tablett, &lonvir::gui::Tablettanbindung::formGezeigt, &fenster,
+                     [](QDialog* f) { form = f; });
     QTimer::singleShot(500, &fenster, [&fenster, &tablett, a] {
         fenster.bildausrechnen(true);
         fenster.darstellen();
@@ -96,9 +112,20 @@ void fotografieren(lonvir::gui::Form1Fenster& fenster, lonvir::gui::Tablettanbin
         }
         if (a.form == QStringLiteral("Form14"))
             tablett.formzeigen("Form14");
+        if (!a.menue.isEmpty())
+            tablett.menueklick(a.menue.toStdString());
+        if (a.seite == 22 && !a.suche.isEmpty()) {
+            QLineEdit* feld = tablett.ansicht()->text(1);
+            feld->setText(a.suche);
+            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+            QApplication::sendEvent(feld, &enter);
+        }
         QApplication::processEvents();
-        const bool gespeichert = fenster.grab().save(a.bildschirmfoto);
-        QApplication::exit(gespeichert ? 0 : 4);
+        QTimer::singleShot(300, &fenster, [&fenster, a] {
+            const bool gespeichert =
+                form ? form->grab().save(a.bildschirmfoto) : fenster.grab().save(a.bildschirmfoto);
+            QApplication::exit(gespeichert ? 0 : 4);
+        });
     });
 }
 

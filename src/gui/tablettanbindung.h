@@ -8,6 +8,7 @@
 #include "panels/tablett.h"
 #include "screen/hauptmenue.h"
 
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QObject>
 
@@ -36,6 +37,10 @@ public:
     // A transfer button: between the layers, or in the preset mode transfer and cancel.
     void uebertragknopf(int von, int nach);
 
+signals:
+    // A form of its own (tariffs, rates, texts) has been shown.
+    void formGezeigt(QDialog* form);
+
 private:
     // Anzeige: the rows go to the main screen, the refresh of the page to the panel.
     void zeilemalen(int zeile) override { f_.modell().zeilemalen(zeile); }
@@ -43,6 +48,7 @@ private:
     void mauszeigerNormal() override { f_.modell().mauszeigerNormal(); }
 
     void ausfuehren(const std::function<void()>& handler);
+    [[nodiscard]] Hauptbildauftrag hauptbildauftrag();
     void formlageholen();
     [[nodiscard]] double twipsJePixel() const;
 

@@ -216,6 +216,9 @@ void TablettFenster::darstellen(double twipsJePixel) {
             b->addItem(qtext(eintrag));
         b->setCurrentIndex(c.position);
         b->setGeometry(rechteck(c.lage));
+        b->setFont(schrift("arial", c.schriftgroesse, false));
+        b->setStyleSheet(QStringLiteral("QComboBox { color: %1; background: %2; }")
+                             .arg(farbe(c.vordergrund), farbe(c.hintergrund)));
         b->setEnabled(c.aktiv);
         b->setVisible(c.sichtbar);
     }

@@ -5,6 +5,7 @@
 
 #include "core/feld.h"
 #include "core/hilfe.h"
+#include "panels/hauptbildauftrag.h"
 #include "start/sitzung.h"
 
 #include <functional>
@@ -45,6 +46,8 @@ struct Tablettliste {
     std::vector<std::string> liste;
     int position = -1;
     int vordergrund = 0;
+    int hintergrund = 15;
+    double schriftgroesse = 8.25;
 };
 
 // A label of the array zeile: a row caption.
@@ -162,6 +165,18 @@ public:
     Feld<std::int32_t, 0, 27> umlagewert;
     // The text z(row) shows on the main screen; the screen model supplies it.
     std::function<std::string(int)> zeilenname;
+    // What the pages that keep the tables ask of the main screen; without one, the core's.
+    Hauptbildauftrag auftrag;
+    // Page 22: the search text, the hits as list positions at 1 to 7 (shown in zeile(10 + i)),
+    // and their number.
+    std::string suchtext;
+    Feld<std::int16_t, 0, 8> trefferliste;
+    std::int16_t trefferzahl = 0;
+    // Page 4: the cost centre chosen, 35 characters; blank when all staff are summed.
+    std::string kostenstellenauswahl = std::string(35, ' ');
+    // The range of the text table the text editor opens on; the entries of "Txt" set it.
+    std::int16_t textvon = 1;
+    std::int16_t textbis = 6000;
     // What the settings pages ask of the main screen. Without a window the refresh of the
     // left column loads the month with its run, the preset mode only keeps its range, and
     // the password form is only noted.

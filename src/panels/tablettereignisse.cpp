@@ -1,4 +1,5 @@
 // The events of the panel: the buttons, the clicks that hand back to Form1, the form's own.
+#include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tablett.h"
 #include "panels/vorgabeseiten.h"
@@ -90,6 +91,11 @@ void Tablett::combo_Click(int index) {
     // The settings pages take their lists at "Speichern"; page 2 writes the lock at once.
     if (s.Tablettseite == 2 && index == 0)
         passwortartklick(*this);
+    // On page 4 only a choice after the focus came to the list is the user's.
+    if (s.Tablettseite == 4 && index == 0 && Comboaktiv == 1) {
+        Comboaktiv = 0;
+        kostenstellewaehlen(*this);
+    }
 }
 
 int Tablett::text_KeyPress(int index, int taste) {
@@ -100,6 +106,13 @@ int Tablett::text_KeyPress(int index, int taste) {
         return weihnachtstaste(*this, index, taste);
     case 65:
         return zvktaste(*this, index, taste);
+    case 22:
+        // Enter in the search field starts the name search.
+        if (index == 1 && taste == 13) {
+            namensuchen(*this);
+            return 0;
+        }
+        return taste;
     default:
         return taste;
     }
@@ -155,7 +168,9 @@ void Tablett::text_GotFocus(int index) {
     fokus = {Tablettfokusart::text, index};
 }
 
-void Tablett::zeile_Click(int) {
+void Tablett::zeile_Click(int index) {
+    if (s.Tablettseite == 22 && index >= 10 && index <= 18)
+        trefferwaehlen(*this, index);
     if (erklaerseite(s.Tablettseite))
         schliessen();
 }

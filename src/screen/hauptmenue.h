@@ -22,6 +22,8 @@ enum class Menueaktion {
     zeilenhilfe,      // MHilfe: the help of the current row
     jahreswechsel,    // MJahreswechsel: the questions, then page 47
     form,             // shows a form of its own; the entry's name says which (MFarben: Form14)
+    kv,               // shows the form KV of the health-insurance rates
+    texte,            // shows Textedit on the range of the entry (the menu "Txt")
 };
 
 struct Menuepunkt {

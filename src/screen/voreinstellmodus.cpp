@@ -4,6 +4,7 @@
 #include "engine/monatladen.h"
 #include "screen/form1.h"
 #include "start/dateisatz.h"
+#include "start/einstellungen.h"
 #include "start/satzzugriff.h"
 
 #include <array>
@@ -173,9 +174,11 @@ int voreinstellungenuebertragen(Sitzung& s, int von, int bis, const Fortschritt&
         }
         sicherung.bestaetigen();
     }
+    // Each run stored the place of its person; the place is the screen's person again.
     s.aktuelleperson = person;
     s.merkmal[0] = static_cast<std::int16_t>(person - 1);
     s.merkmal[20] = monat;
+    voeschreiben(s);
     return gesamt;
 }
 

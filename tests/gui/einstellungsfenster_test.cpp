@@ -131,6 +131,30 @@ TEST(Einstellungsfenster, Form14FaerbtDieZeile) {
     EXPECT_EQ(w.f->modell().bild.zeilen[4].farbe, 12);
 }
 
+TEST(Einstellungsfenster, PasswortformOeffnetMitDemGespeichertenWort) {
+    test::Umgebung u;
+    u.s.Tablettseite = 70;
+    u.dialoge.antworten(Knopf::ja);
+    {
+        gui::PasswortFenster neu(u.s);
+        neu.show();
+        QTest::keyClick(neu.pawo(0), Qt::Key_X, Qt::ShiftModifier);
+        QTest::keyClick(neu.pawo(1), Qt::Key_Return);
+        EXPECT_EQ(neu.modell().stand, Password::Stand::gespeichert);
+        EXPECT_EQ(neu.result(), QDialog::Accepted);
+    }
+    u.s.Tablettseite = 2;
+    gui::PasswortFenster pruefung(u.s);
+    pruefung.show();
+    QTest::keyClick(pruefung.pawo(0), Qt::Key_Shift); // no key: stays at the first box
+    EXPECT_EQ(pruefung.modell().fokus, 0);
+    QTest::keyClick(pruefung.pawo(0), Qt::Key_X);
+    EXPECT_EQ(pruefung.pawo(0)->text().toStdString(), "*");
+    QTest::keyClick(pruefung.pawo(1), Qt::Key_Return);
+    EXPECT_EQ(pruefung.modell().stand, Password::Stand::richtig);
+    EXPECT_EQ(pruefung.result(), QDialog::Accepted);
+}
+
 TEST(Einstellungsfenster, PasswortTastenAlsCodes) {
     QKeyEvent a(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
     QKeyEvent gross(QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier, QStringLiteral("A"));

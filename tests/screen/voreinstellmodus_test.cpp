@@ -98,6 +98,10 @@ TEST(Voreinstellmodus, UebertragenGibtDieGelbenZeilenAnDenBereich) {
     EXPECT_EQ(test::dateiinhalt(u.ordner.pfad(), "L1997I.5").substr(5 * 541, 541), person6);
     EXPECT_FALSE(f.voreinstellung.aktiv);
     EXPECT_EQ(s.aktuelleperson, 1);
+    // The place stored for the next start is the person on the screen, not the last preset.
+    const std::string voe = test::dateiinhalt(u.ordner.pfad(), "Lonvir97.voe");
+    EXPECT_EQ(static_cast<std::uint8_t>(voe[380]), 0x10); // 1.0000 = 10000 = 0x2710
+    EXPECT_EQ(static_cast<std::uint8_t>(voe[381]), 0x27);
 }
 
 TEST(Voreinstellmodus, DieMonateDerPersonenWerdenNeuBerechnet) {
