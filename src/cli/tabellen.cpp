@@ -47,10 +47,10 @@ void tarifausgeben(Kontext& k, const Tarife& t, std::ostream& aus) {
     }
     aus << t.ueberschrift << "\n" << t.Panel3D2 << "\n";
     for (int i = 0; i <= 26; ++i) {
-        std::string spalte = tarifspalte(i);
+        const std::string spalte = tarifspalte(i);
+        const std::size_t breite = zeichenzahl(spalte);
         aus << (i < 10 ? " " : "") << i << "  " << spalte
-            << std::string(spalte.size() < 16 ? 16 - spalte.size() : 1, ' ') << t.satzbild[i]
-            << "\n";
+            << std::string(breite < 16 ? 16 - breite : 1, ' ') << t.satzbild[i] << "\n";
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include "gui/form1fenster.h"
 #include "gui/tablettfenster.h"
+#include "panels/hauptbildauftrag.h"
 #include "panels/tablett.h"
 #include "screen/hauptmenue.h"
 
@@ -36,6 +37,8 @@ public:
     void formzeigen(const std::string& name);
     // A transfer button: between the layers, or in the preset mode transfer and cancel.
     void uebertragknopf(int von, int nach);
+    // Shows the annual overview "Form3" or the totals "Form2" (their own unit).
+    std::function<void(const std::string&)> uebersichtzeigen;
 
 signals:
     // A form of its own (tariffs, rates, texts) has been shown.

@@ -156,8 +156,8 @@ void trefferwaehlen(Tablett& t, int zeile) {
     const int position = t.trefferliste[k];
     t.s.merkmal[0] = static_cast<std::int16_t>(position);
     t.s.aktuelleperson = static_cast<std::int16_t>(position + 1);
-    if (t.auftrag.bildauffrischen)
-        t.auftrag.bildauffrischen();
+    if (t.linkespalteauffrischen)
+        t.linkespalteauffrischen();
 }
 
 namespace {

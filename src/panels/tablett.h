@@ -5,7 +5,6 @@
 
 #include "core/feld.h"
 #include "core/hilfe.h"
-#include "panels/hauptbildauftrag.h"
 #include "start/sitzung.h"
 
 #include <functional>
@@ -159,14 +158,13 @@ public:
     std::int16_t Schirmsperre = 0; // -1 while a batch pass over the records runs
     bool wirdgeoeffnet = false;    // set while tablettoeffnen runs
     bool gespeichert = false;      // the store mark of the form
-    // A form the panel asks the face to show, e.g. "LStrTab" after a click on page 6.
+    // A form the panel asks the face to show, e.g. "LStrTab" after a click on page 6, "Form2"
+    // from page 66 with the choice of Combo(0), "Form3" from the menu.
     std::optional<std::string> formwunsch;
     // The levy per pay row of page 8 for civil servants, Pfennig.
     Feld<std::int32_t, 0, 27> umlagewert;
     // The text z(row) shows on the main screen; the screen model supplies it.
     std::function<std::string(int)> zeilenname;
-    // What the pages that keep the tables ask of the main screen; without one, the core's.
-    Hauptbildauftrag auftrag;
     // Page 22: the search text, the hits as list positions at 1 to 7 (shown in zeile(10 + i)),
     // and their number.
     std::string suchtext;
@@ -203,6 +201,7 @@ public:
     void Command1_Click();
     void command2_Click();
     void Command3_Click();
+    void Command4_Click();
     void combo_GotFocus(int index);
     // A pick in Combo(index): its position is already in the model.
     void combo_Click(int index);

@@ -33,7 +33,8 @@ TEST(TarifBefehl, ZeigtEinenSatzMitSeinenSpalten) {
     EXPECT_EQ(l.status, 0) << l.aus;
     EXPECT_TRUE(enthaelt(l.aus, "LONVIR    1 9 9 7 _ 1  (Grundgeh., OZ, Allg.St.Z.)")) << l.aus;
     EXPECT_TRUE(enthaelt(l.aus, "Stufe 15 o.a.")) << l.aus;
-    EXPECT_TRUE(enthaelt(l.aus, "Überst.Verg.")) << l.aus;
+    EXPECT_TRUE(enthaelt(l.aus, "\n26  Überst.Verg.    ")) << l.aus;
+    EXPECT_TRUE(enthaelt(l.aus, "\n 0  Stufe 1         ")) << l.aus;
 }
 
 TEST(TarifBefehl, AendertDurchDieSpaeterenTabellen) {
@@ -62,6 +63,18 @@ TEST(TarifBefehl, NeunmalNeunWirdMitDerMeldungAbgelehnt) {
     EXPECT_EQ(cli("tarif " + d.o + " --datei 2 --nummer 81 --feld 3 --betrag 12,5").status, 2);
     EXPECT_EQ(cli("tarif " + d.o + " --datei 5 --nummer 81").status, 2);
     EXPECT_EQ(cli("tarif " + d.o + " --datei 1 --nummer 295").status, 2);
+}
+
+TEST(TarifBefehl, Jahr1998SchreibtInDieTabellenVon1998) {
+    Ordner d;
+    const std::string tabelle97 = test::dateiinhalt(d.t.pfad(), "Lonvir97.4tr");
+    const test::Clilauf l =
+        cli("tarif " + d.o + " --jahr 1998 --datei 4 --nummer 379 --feld 26 --betrag 2500 --json");
+    EXPECT_EQ(l.status, 0) << l.aus;
+    EXPECT_TRUE(enthaelt(l.aus, "\"jahr\":1998,\"datei\":4,\"nummer\":379")) << l.aus;
+    EXPECT_TRUE(enthaelt(l.aus, "{\"feld\":26,\"spalte\":\"Überst.Verg.\",\"betrag\":2500}"))
+        << l.aus;
+    EXPECT_EQ(test::dateiinhalt(d.t.pfad(), "Lonvir97.4tr"), tabelle97);
 }
 
 TEST(TextBefehl, ZeigtUndSetztEinenText) {

@@ -21,7 +21,7 @@ Form1lage hauptform() {
 
 struct Seite22 {
     explicit Seite22(Sitzung& s) : t(s, lage) {
-        t.auftrag.bildauffrischen = [this] { ++auffrischungen; };
+        t.linkespalteauffrischen = [this] { ++auffrischungen; };
         s.Tablettseite = 22;
         t.tablettoeffnen();
     }
