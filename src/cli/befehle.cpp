@@ -16,7 +16,7 @@ const char* const aufruf =
     "Aufruf: lonvir97-cli BEFEHL [--ordner DIR] [--jahr 1997|1998] [--schicht INFO|PLAN|REAL]\n"
     "                    [--json] [--ja|--nein] ...\n"
     "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, einstellungen,\n"
-    "         drucken, tarif, text, suchen, installieren\n";
+    "         drucken, tarif, text, suchen, jahreswechsel, installieren\n";
 
 std::filesystem::path standardordner() {
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
@@ -58,6 +58,7 @@ constexpr Befehl befehle[] = {
     {"tarif", tarif, true},
     {"text", text, true},
     {"suchen", suchen, true},
+    {"jahreswechsel", jahreswechsel, true},
 };
 
 const Befehl* befehlVon(const std::string& name) {

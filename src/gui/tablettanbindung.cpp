@@ -19,6 +19,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QProgressDialog>
@@ -71,6 +72,15 @@ Tablettanbindung::Tablettanbindung(Form1Fenster& fenster, Sitzung& s, Hilfe* hil
         f_.command7()->setText(QStringLiteral("Reform"));
         seiteoeffnen(68);
     });
+    // A page that works long (the year change) shows its labels as they move; the window is
+    // repainted and serves its events, but takes no input until the page is done.
+    t_.zwischendurch = [this] {
+        if (zwischendurch_.isValid() && zwischendurch_.elapsed() < 40)
+            return;
+        zwischendurch_.start();
+        darstellen();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    };
 }
 
 // The main screen's part in a change of the tables: the model of Form1 does it.
@@ -280,7 +290,8 @@ void Tablettanbindung::menueklick(const std::string& name) {
     }
     // A change of year may check and enable other entries: the bar is built again once
     // this click is over.
-    if (p && (p->aktion == Menueaktion::jahr || p->aktion == Menueaktion::personalloeschen))
+    if (p && (p->aktion == Menueaktion::jahr || p->aktion == Menueaktion::personalloeschen ||
+              p->aktion == Menueaktion::jahreswechsel))
         QTimer::singleShot(0, this, [this] { menueaufbauen(); });
 }
 

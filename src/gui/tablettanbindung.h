@@ -10,6 +10,7 @@
 #include "screen/hauptmenue.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QObject>
 
 #include <memory>
@@ -61,6 +62,7 @@ private:
     Menueziel ziel_;
     TablettFenster* ansicht_ = nullptr;
     bool neuzeichnen_ = false;
+    QElapsedTimer zwischendurch_;
     class LStrTabFenster* lstrtab_ = nullptr; // the table viewer, once opened
 };
 

@@ -22,6 +22,16 @@ void teilzeitseite(Tablett& t);
 // Page 23: the person's remark card, and its store by Command1 "Speichern".
 void jahreswertespeichern(Tablett& t);
 void jahreswerteseite(Tablett& t);
+// Page 47: the year change with its progress and what it copied.
+void jahresuebertrag(Tablett& t);
+// Page 67: the take-over of the former version's data, announced only; Command1 answers that
+// it is not yet available.
+void versionsseite(Tablett& t);
+void versionuebernehmen(Tablett& t);
+namespace versionstext {
+constexpr int erster = 3971;
+constexpr int letzter = 3978;
+} // namespace versionstext
 
 // Page 66: the administrative cost refund; its explanation (Command1), the cost-centre list
 // of Combo(0) (Command3) and the totals of all staff (Command4). Combo(0) at position 0

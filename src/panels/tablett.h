@@ -188,6 +188,9 @@ public:
     // The range of records page 61 marked last, first and last number.
     std::optional<std::pair<int, int>> markierbereich;
     bool passwortverlangt = false;
+    // Called by a page that works long (the year change) between two steps: the window
+    // shows the labels as they stand and serves its events.
+    std::function<void()> zwischendurch;
 
     // --- opening and clearing
     void tablettoeffnen();

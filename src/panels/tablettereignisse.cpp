@@ -64,6 +64,9 @@ void Tablett::Command1_Click() {
     case 23:
         jahreswertespeichern(*this);
         break;
+    case 67:
+        versionuebernehmen(*this);
+        break;
     case 66:
         vkeerlaeuterung(*this);
         break;

@@ -45,6 +45,8 @@ Tablett::Tablett(Sitzung& sitzung, Form1lage& f, Hilfe* h) : s(sitzung), form(f)
         t.textbis = 6000;
         t.formwunsch = "Textedit";
     };
+    bauer_[47] = jahresuebertrag;
+    bauer_[67] = versionsseite;
     zeilenname = [this](int z) { return zeilenbezeichnung(s, z); };
     linkespalteauffrischen = [this] {
         const std::int16_t monat = s.merkmal[20] >= 0 && s.merkmal[20] <= 12 ? s.merkmal[20] : 0;

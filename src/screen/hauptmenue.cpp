@@ -4,6 +4,7 @@
 #include "screen/navigation.h"
 #include "screen/personalloeschen.h"
 #include "start/textmenues.h"
+#include "transfer/jahreswechsel.h"
 
 namespace lonvir {
 
@@ -46,7 +47,14 @@ Menuepunkt jahresmenue(const Sitzung& s, int jahr, bool jahr1998) {
         wahl.aktiv = jahr1998;
         loeschen.aktiv = jahr1998;
     }
-    std::vector<Menuepunkt> punkte = {std::move(wahl)};
+    // The first entry: the take-over of the former version, or the year change.
+    std::vector<Menuepunkt> punkte;
+    if (jahr == 1997)
+        punkte.push_back(seite("MWechel_96_97", "Version96 > Version97 ...", 67));
+    else
+        punkte.push_back(
+            eintrag("MJahreswechsel", "Dez 97  >  Jan 98...", Menueaktion::jahreswechsel, 47));
+    punkte.push_back(std::move(wahl));
     // The four tables of the year: pages 54 to 57, and 58, 59, 60, 62 for 1998.
     const std::string jj = jahr == 1997 ? "7" : "8";
     for (int tabelle = 1; tabelle <= 4; ++tabelle) {
@@ -162,8 +170,8 @@ void zeilenhilfezeigen(Menueziel& z) {
 } // namespace
 
 std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
-    // The 1998 entries wait until a set of 1998 has been filled.
-    const bool jahr1998 = !s.ist1997() || s.ordner.laenge("L1998I.1") >= 1;
+    // The 1998 entries wait until a set of 1998 has been filled or a year change has run.
+    const bool jahr1998 = !s.ist1997() || s.jahr1998freigegeben || s.ordner.laenge("L1998I.1") >= 1;
     return {
         menue("MDatei", "Wie",
               {
@@ -245,6 +253,10 @@ void menueklick(Menueziel& z, const std::string& name) {
         break;
     case Menueaktion::zeilenhilfe:
         zeilenhilfezeigen(z);
+        break;
+    case Menueaktion::jahreswechsel:
+        if (jahreswechselfragen(z.s))
+            seiteoeffnen(z, p->zahl);
         break;
     case Menueaktion::kv:
         z.tablett.formwuenschen("KV");

@@ -20,6 +20,7 @@ enum class Menueaktion {
     personalloeschen, // deletes the persons of year `zahl`
     beenden,          // MBeenden
     zeilenhilfe,      // MHilfe: the help of the current row
+    jahreswechsel,    // MJahreswechsel: the questions, then page 47
     form,             // shows a form of its own; the entry's name says which (MFarben: Form14)
     kv,               // shows the form KV of the health-insurance rates
     texte,            // shows Textedit on the range of the entry (the menu "Txt")

@@ -95,6 +95,8 @@ struct Sitzung {
     std::int16_t aktuellerdatei = 1;
     std::int16_t anzahlnamen = 0;
     std::int16_t Tablettseite = 0;
+    // Set by a year change that went through: the 1998 entries of the menu are usable.
+    bool jahr1998freigegeben = false;
 
     // --- the person's month
     Feld<std::int16_t, 0, 45> merkmal;

@@ -1,6 +1,7 @@
 // The start sequence: file set, settings, display settings, start lock, persons.
 #include "start/start.h"
 
+#include "core/dateitausch.h"
 #include "core/pfennig.h"
 #include "start/dateisatz.h"
 #include "start/einsetzen.h"
@@ -30,6 +31,8 @@ Startergebnis starten(Sitzung& s) {
     // A working folder without a store is first seeded from the installation data.
     if (!s.installation.empty() && installation::ohnebestand(s.ordner))
         installation::einsetzen(s.installation, s.ordner);
+    // A year change that was interrupted is completed or undone before any file is opened.
+    dateitauschaufraeumen(s.ordner.ordner());
     s.startphase = 1;
     s.aenderungssperre = -1;
     const std::int16_t schicht = s.schicht;

@@ -41,18 +41,18 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
                                         "Sozialversicherungsdaten ...", "KV_Beitragssätze ...",
                                         "ZVK ...", "Weihnachtsgeld-Quote ...", "Beenden"}));
     EXPECT_EQ(leiste[0].punkte.back().name, "MBeenden");
-    EXPECT_EQ(
-        texte(leiste[1].punkte),
-        (std::vector<std::string>{"Berechnungen für 1997", "1997_1er Tarife editieren ...",
-                                  "1997_2er Tarife editieren ...", "1997_3er Tarife editieren ...",
-                                  "1997_4er Tarife editieren ...", "Tarifstruktur 1997 festlegen",
-                                  "1997er Personaldaten löschen ..."}));
-    EXPECT_EQ(
-        texte(leiste[2].punkte),
-        (std::vector<std::string>{"Berechnungen für 1998", "1998_1er Tarife editieren ...",
-                                  "1998_2er Tarife editieren ...", "1998_3er Tarife editieren ...",
-                                  "1998_4er Tarife editieren ...", "Tarifstruktur 1998 festlegen",
-                                  "1998er Personaldaten löschen ..."}));
+    EXPECT_EQ(texte(leiste[1].punkte),
+              (std::vector<std::string>{
+                  "Version96 > Version97 ...", "Berechnungen für 1997",
+                  "1997_1er Tarife editieren ...", "1997_2er Tarife editieren ...",
+                  "1997_3er Tarife editieren ...", "1997_4er Tarife editieren ...",
+                  "Tarifstruktur 1997 festlegen", "1997er Personaldaten löschen ..."}));
+    EXPECT_EQ(texte(leiste[2].punkte),
+              (std::vector<std::string>{
+                  "Dez 97  >  Jan 98...", "Berechnungen für 1998", "1998_1er Tarife editieren ...",
+                  "1998_2er Tarife editieren ...", "1998_3er Tarife editieren ...",
+                  "1998_4er Tarife editieren ...", "Tarifstruktur 1998 festlegen",
+                  "1998er Personaldaten löschen ..."}));
     EXPECT_EQ(leiste[4].name, "MTeilzeit");
     EXPECT_EQ(leiste[4].zahl, 35);
     EXPECT_EQ(leiste[5].zahl, 6);
