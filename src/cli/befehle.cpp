@@ -45,7 +45,7 @@ struct Befehl {
 // The wage-tax run and the table band compute from their options alone.
 constexpr Befehl befehle[] = {
     {"anlegen", anlegen, true},         {"zeigen", zeigen, true},
-    {"setzen", setzen, true},           {"satz", satz, true},
+    {"setzen", setzen, true},           {"satz", satz, false},
     {"uebertragen", uebertragen, true}, {"lohnsteuer", lohnsteuer, false},
     {"tabelle", tabelle, false},
 };
@@ -76,6 +76,8 @@ Kontext::Kontext(const Optionen& o, bool mitOrdner)
     s.dialoge = &dialoge;
     s.jahr = static_cast<std::int16_t>(o.zahl("jahr", 1997, 1998, 1997));
     s.schicht = schichtAus(o);
+    // A read-only command opens the files for reading only and writes nothing.
+    s.nurLesen = o.schalter("nur-lesen");
     if (mitOrdner)
         starten(s);
 }

@@ -8,8 +8,8 @@ namespace lonvir::cli {
 
 namespace {
 // Options that stand alone; every other option takes a value.
-const std::set<std::string> alleinstehend = {"json",      "ja",     "nein",  "alter64",
-                                             "besonders", "beamte", "alter", "leer"};
+const std::set<std::string> alleinstehend = {"json",   "ja",    "nein", "alter64",  "besonders",
+                                             "beamte", "alter", "leer", "nur-lesen"};
 } // namespace
 
 Optionen::Optionen(int argc, char** argv) {

@@ -5,6 +5,7 @@
 #include "gui/qtdialoge.h"
 #include "gui/startform.h"
 #include "gui/tablettanbindung.h"
+#include "start/bestandspruefung.h"
 #include "start/start.h"
 
 #include <QApplication>
@@ -95,7 +96,7 @@ int main(int argc, char** argv) {
     }
     try {
         s.ordner.anlegen();
-        const lonvir::Startergebnis ergebnis = lonvir::starten(s);
+        const lonvir::Startergebnis ergebnis = lonvir::startenOderNurLesen(s);
         if (ergebnis == lonvir::Startergebnis::angehalten)
             return app.exec(); // the start form stays up; no main form follows
         if (ergebnis == lonvir::Startergebnis::passwort) {
@@ -115,6 +116,10 @@ int main(int argc, char** argv) {
         if (!aufruf.bildschirmfoto.isEmpty())
             fotografieren(fenster, tablett, aufruf);
         return app.exec();
+    } catch (const lonvir::Bestandsschaden& schaden) {
+        // Reported and declined: the program ends without writing anything.
+        std::cerr << schaden.what() << "\n";
+        return 4;
     } catch (const std::exception& fehler) {
         QMessageBox::critical(nullptr, QStringLiteral("Lonvir 97"),
                               QString::fromUtf8(fehler.what()));
