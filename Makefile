@@ -3,7 +3,7 @@ BUILD   ?= build
 ORDNER  ?= $(CURDIR)/arbeitsordner
 JOBS    ?= $(shell nproc)
 
-.PHONY: deps configure build run test sanitizer bench format clean
+.PHONY: deps configure build run test test-lang sanitizer bench fuzz format clean
 
 deps:
 	@scripts/install-deps.sh
@@ -18,7 +18,11 @@ run: build
 	@scripts/run.sh $(BUILD) $(ORDNER)
 
 test: build
-	@cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+	@cd $(BUILD) && ctest --output-on-failure -j $(JOBS) -LE lang
+
+# The long runs: 300 input series killed at random moments.
+test-lang: build
+	@cd $(BUILD) && ctest --output-on-failure -L lang
 
 # The core and its tests once more with address and undefined-behaviour checks.
 sanitizer: deps
@@ -27,6 +31,12 @@ sanitizer: deps
 	@cmake --build build-asan -j $(JOBS)
 	@cd build-asan && ctest --output-on-failure -j $(JOBS)
 
+# Every fuzz target for FUZZZEIT seconds (clang's libFuzzer, address and undefined-behaviour
+# checks); new crash inputs land in build-fuzz/funde/, to be kept under tests/fuzz/funde/.
+FUZZZEIT ?= 60
+fuzz: deps
+	@scripts/fuzz.sh build-fuzz $(FUZZZEIT) $(JOBS)
+
 bench: build
 	@$(BUILD)/bench/lonvir_bench
 
@@ -34,4 +44,4 @@ format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
 clean:
-	@rm -rf $(BUILD) build-asan
+	@rm -rf $(BUILD) build-asan build-fuzz

@@ -7,6 +7,7 @@ pakete=(
     libgtest-dev libgmock-dev libbenchmark-dev
     qt6-base-dev libgl-dev
     xvfb xauth clang-format
+    clang-14 libclang-rt-14-dev
 )
 
 fehlend=()
