@@ -7,6 +7,8 @@ pakete=(
     libgtest-dev libgmock-dev libbenchmark-dev
     qt6-base-dev libgl-dev
     xvfb xauth clang-format
+    qt6-translations-l10n fonts-liberation poppler-utils
+    python3
     clang-14 libclang-rt-14-dev
 )
 

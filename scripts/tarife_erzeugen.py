@@ -3,11 +3,20 @@
 folder (../shared/data of the worktrees). Run by hand when those tables grow; the TSV files
 are the sources the build compiles. Only published amounts, amounts derived by the stated
 method of the data folder (status derived_unique), and sums of published components are
-written; every other cell stays empty (0). Usage: tarife_erzeugen.py DATENORDNER ZIELORDNER"""
-import csv, sys, os, collections
+written; every other cell stays empty (0). Every derivation is checked against the published
+tables on each run, which stops on a mismatch.
+Usage: tarife_erzeugen.py [--pruefen] DATENORDNER ZIELORDNER
+With --pruefen nothing is written: the sources are generated into a temporary folder and compared
+with those in ZIELORDNER (exit status 1 on any difference); the build's tests run it so."""
+import csv, sys, os, collections, filecmp, tempfile
 from decimal import Decimal, ROUND_HALF_UP
 
-daten, ziel = sys.argv[1], sys.argv[2]
+import besoldung_abgeleitet as abl
+
+pruefen = sys.argv[1] == '--pruefen'
+daten, ziel = sys.argv[1 + pruefen], sys.argv[2 + pruefen]
+if pruefen:
+    vorhanden, ziel = ziel, tempfile.mkdtemp(prefix='tarife_')
 # Public tables found for this project and kept beside the tariff sources (data/tarife/quellen).
 QUELLEN = os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))), 'data', 'tarife',
                        'quellen')
@@ -50,6 +59,8 @@ fz = lesen('besoldung_familienzuschlag.csv')
 fz_west97 = lesen('besoldung_zuschlaege_west_1997_abgeleitet.csv')
 anw = lesen('besoldung_anwaerter.csv')
 bat = lesen('bat_grundverguetung_west.csv')
+grund_west95 = lesen('besoldung_grundgehalt_west_1995_abgeleitet.csv')
+oz_west95 = lesen('besoldung_ortszuschlag_west_1995_abgeleitet.csv')
 bat_zul = lesen('bat_zulage_ortszuschlag_west.csv')
 
 def stufen(rows, region, ab, gruppe):
@@ -198,12 +209,13 @@ class Datei:
                 f.write('\t'.join([str(nr), name] + [dm(w.get(i, 0)) for i in range(27)] + [q]) + '\n')
 
 def beamte(datei, region, ab_grund, oz, quelle, west97=False, ost=False, anw_ab=None,
-           fz_ab=None):
+           fz_ab=None, nur_anwaerter=False):
     off = 300 if ost else 0
     rows = west97_zeilen if west97 else grund
     regionname = 'West' if not ost else 'Ost'
-    for base, gruppen, namen in ((1, A_GRUPPEN, A_NAMEN), (23, B_GRUPPEN, B_GRUPPEN),
-                                 (35, C_GRUPPEN, C_GRUPPEN), (40, R_GRUPPEN, R_GRUPPEN)):
+    for base, gruppen, namen in () if nur_anwaerter else (
+            (1, A_GRUPPEN, A_NAMEN), (23, B_GRUPPEN, B_GRUPPEN), (35, C_GRUPPEN, C_GRUPPEN),
+            (40, R_GRUPPEN, R_GRUPPEN)):
         for g, (gruppe, name) in enumerate(zip(gruppen, namen)):
             w = dict(stufen(rows, regionname, ab_grund, gruppe))
             if not w:
@@ -218,14 +230,59 @@ def beamte(datei, region, ab_grund, oz, quelle, west97=False, ost=False, anw_ab=
             datei.setzen(51 + g + off, 'Anw. ' + gruppe.split(' (')[0], anw_werte(regionname, anw_ab, gruppe),
                          quelle)
 
+def oz_werte(oz, gruppe):
+    """The record fields of the old Ortszuschlag from one table of its class (Pfennig)."""
+    d = oz[tarifklasse(gruppe)]
+    e = {15: d['stufe_1'], 16: d['stufe_2'] - d['stufe_1']}
+    kind1 = d['stufe_3_1_kind'] - d['stufe_2']
+    for k in range(1, 7):
+        e[16 + k] = kind1 + (k - 1) * d['weiter']
+    return {i: v / 100 for i, v in e.items()}
+
+def beamte_abgeleitet(datei, grund_tab, oz, quelle, ost=False):
+    """Blocks A, B, C, R (old structure) from derived tables in Pfennig: group -> {step: Pf}
+    and the Ortszuschlag by Tarifklasse."""
+    off = 300 if ost else 0
+    for base, gruppen, namen in ((1, A_GRUPPEN, A_NAMEN), (23, B_GRUPPEN, B_GRUPPEN),
+                                 (35, C_GRUPPEN, C_GRUPPEN), (40, R_GRUPPEN, R_GRUPPEN)):
+        for g, (gruppe, name) in enumerate(zip(gruppen, namen)):
+            w = {s - 1: v / 100 for s, v in grund_tab[gruppe].items()}
+            w.update(oz_werte(oz, gruppe))
+            datei.setzen(base + g + off, name, w, quelle)
+
+def anwaerter_abgeleitet(datei, werte, quelle):
+    """The West candidates' block from the derived amounts (Pfennig) per entry grade."""
+    for g, gruppe in enumerate(ANW):
+        vor26, ab26, verh = werte[gruppe]
+        datei.setzen(51 + g, 'Anw. ' + gruppe.split(' (')[0],
+                     {0: vor26 / 100, 1: ab26 / 100, 16: verh / 100}, quelle)
+
 def angestellte(datei, jahr, fortgeschrieben):
     for g, gruppe in enumerate(VKA):
         w, q = bat_werte(jahr, gruppe, fortgeschrieben)
         datei.setzen(79 + g, 'BAT VKA ' + gruppe, w, q)
 
 dateien = {(j, n): Datei() for j in (1997, 1998) for n in range(1, 5)}
-# 1997 file 1 (January, February): Ost table of 1.10.1995 (84 %, old structure), still in force.
+# Every relation between the derived and the published civil-servant tables is checked first.
+west95 = abl.West1995(grund_west95, oz_west95, grund, oz_alt)
+abl.pruefen_west_juli97(west97_zeilen, grund)
+anw_west97 = abl.anwaerter_west97(anw)
+# 1997 file 1 (January, February): Ost table of 1.10.1995 (84 %, old structure), still in force;
+# West the table of 1.5.1995 derived from both Ost tables of 1995 (no raise in 1996).
 beamte(dateien[1997, 1], 'Ost', '1995-10-01', 'alt', 'BesUeV95-84', ost=True, anw_ab='1995-10-01')
+beamte_abgeleitet(dateien[1997, 1], west95.grund, west95.oz, 'West95-abgeleitet')
+# 1997 file 2 (March to June): West raised by 1.3 % per cell, Ost 84 % of that by the Ost rule.
+# The candidates' amounts were not raised: the Ost table of 1.10.1995 stays in force to August.
+west_maerz = abl.erhoeht(west95.grund, 1013)
+oz_maerz = abl.oz_erhoeht(west95.oz, 1013)
+beamte_abgeleitet(dateien[1997, 2], west_maerz, oz_maerz, 'West97M-abgeleitet')
+beamte_abgeleitet(dateien[1997, 2], abl.ost_tabellen(west_maerz, 84), abl.oz_ost(oz_maerz, 84),
+                  'Ost97M-abgeleitet', ost=True)
+for n in range(1, 5):
+    anwaerter_abgeleitet(dateien[1997, n], anw_west97, 'AnwWest97-abgeleitet')
+for n in (2, 3):
+    beamte(dateien[1997, n], 'Ost', '1995-10-01', None, 'BesUeV95-84', ost=True,
+           anw_ab='1995-10-01', nur_anwaerter=True)
 # 1997 file 3 (July, August): the reform tables of 1.7.1997; file 4 from September.
 beamte(dateien[1997, 3], 'West', '1997-07-01', 'fz', 'West97-abgeleitet', west97=True)
 beamte(dateien[1997, 3], 'Ost', '1997-07-01', 'fz', 'BesUeV97-84', ost=True)
@@ -279,3 +336,35 @@ with open(os.path.join(ziel, 'QUELLEN.md'), 'w', encoding='utf-8') as f:
                 zellen.append('%d von %d' % (len(belegt), anzahl) if belegt else '0 (leer)')
                 zellen.append(', '.join(quellen) if quellen else 'keine öffentliche Quelle gefunden')
             f.write('| %d %s | %s |\n' % (k, name, ' | '.join(zellen)))
+
+# The cells of the derived West tables of 1995 whose amount is a choice between two candidates.
+A_ZEILE = {g: A_GRUPPEN.index(g) + 1 for g in A_GRUPPEN}
+with open(os.path.join(ziel, 'QUELLEN.md'), 'a', encoding='utf-8') as f:
+    f.write('\n## Zellen mit einer Wahl (West 1.5.1995, daraus März bis Juni 1997)\n\n')
+    f.write('Wo die Ost-Tabellen 1995 zwei Werte zulassen, steht der Wert, den die Regel der '
+            'Ost-Tabellen\n(ceil(p · oberste Stufe) − Σ floor(p · Stufenabstand)) allein '
+            'ergibt; gibt sie beide, der niedrigere der beiden Werte, die der Datenordner nennt\n'
+            '(bei A 7 und A 9 ist das der Stufenabstand, 74,50 | 74,51 und 90,00 | 90,01 DM, so '
+            'dass sich\nmehrere Stufen mit ihm verschieben). Die Erhöhung um 1,3 % und die Ost-Tabelle '
+            'März bis Juni 1997 folgen dem gewählten Wert.\n\n')
+    f.write('| Gruppe | Stufe | eingetragen 1995 | anderer Wert 1995 | März 1997 (eingetragen / anders) '
+            '| entschieden durch |\n|---|---|---|---|---|---|\n')
+    for gruppe, s, wahl, anders, entschieden in west95.unsicher:
+        f.write('| %s | %d | %s | %s | %s / %s | %s |\n' % (
+            gruppe, s, abl.dm(wahl), abl.dm(anders), abl.dm(abl.erhoehen(wahl, 1013)),
+            abl.dm(abl.erhoehen(anders, 1013)),
+            'Ost-Regel' if entschieden else 'beide passen (±%d Pf)' % abs(wahl - anders)))
+    f.write('\nOrtszuschlag West 1.5.1995: die Ost-Beträge folgen keiner einheitlichen Rundung; '
+            'eingetragen ist\nvon zwei Werten, die beide Ost-Beträge auf einen Pfennig treffen, '
+            'der niedrigere (±1 Pf).\n\n| Tarifklasse | Betrag | eingetragen | anderer Wert |\n'
+            '|---|---|---|---|\n')
+    for klasse, komp, wahl, andere, _ in west95.unsicher_oz:
+        f.write('| %s | %s | %s | %s |\n' % (klasse, komp.replace('_', ' '), abl.dm(wahl),
+                                             ', '.join(abl.dm(a) for a in andere)))
+
+if pruefen:
+    abweichend = [n for n in sorted(os.listdir(ziel))
+                  if not filecmp.cmp(os.path.join(ziel, n), os.path.join(vorhanden, n), shallow=False)]
+    if abweichend:
+        sys.exit('Die Tarifquellen in %s weichen vom Erzeugten ab: %s' % (vorhanden, ', '.join(abweichend)))
+    print('Tarifquellen stimmen mit den öffentlichen Tabellen überein.')

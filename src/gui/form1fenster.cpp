@@ -412,6 +412,20 @@ void Form1Fenster::kopfDarstellen() {
                                    : QStringLiteral("background: #C0C0C0; color: #000000;"));
         panel->setFrameShadow(aktiv ? QFrame::Sunken : QFrame::Raised);
     }
+    // The preset mode re-captions the transfer buttons; its two take the room of all four.
+    // Command4 and Command5 keep their places, from which the other two are measured.
+    const QRect b4 = uebertragknoepfe_[2]->geometry();
+    const int schritt = uebertragknoepfe_[3]->x() - b4.x();
+    const bool modus = modell_.voreinstellung.aktiv;
+    for (std::size_t i = 0; i < 4; ++i) {
+        const int knopf = static_cast<int>(i) + 2;
+        uebertragknoepfe_[i]->setText(text(uebertragknopftext(modell_, knopf)));
+        uebertragknoepfe_[i]->setVisible(uebertragknopfsichtbar(modell_, knopf));
+    }
+    const int breite = modus ? schritt + b4.width() : b4.width();
+    uebertragknoepfe_[0]->setGeometry(b4.x() - 2 * schritt, b4.y(), breite, b4.height());
+    uebertragknoepfe_[1]->setGeometry(modus ? b4.x() : b4.x() - schritt, b4.y(), breite,
+                                      b4.height());
 }
 
 void Form1Fenster::fokusUebergeben() {

@@ -1,12 +1,16 @@
 // Wiring of the panel and the menu to the window Form1.
 #include "gui/tablettanbindung.h"
 
+#include "gui/farbenfenster.h"
+#include "gui/passwortfenster.h"
 #include "screen/uebertragung.h"
+#include "screen/voreinstellmodus.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QScreen>
 #include <QTimer>
 
@@ -33,12 +37,14 @@ Tablettanbindung::Tablettanbindung(Form1Fenster& fenster, Sitzung& s, Hilfe* hil
     s_.anzeige = this;
     ansicht_ = new TablettFenster(
         t_, [this](const std::function<void()>& h) { ausfuehren(h); }, f_.centralWidget());
-    connect(&f_, &Form1Fenster::uebertragGeklickt, this, [this](int von, int nach) {
-        // No recalculation and no refresh: the screen shows the old data.
-        ausfuehren([&] {
-            uebertragen(s_, static_cast<std::int16_t>(von), static_cast<std::int16_t>(nach));
-        });
-    });
+    connect(&f_, &Form1Fenster::uebertragGeklickt, this,
+            [this](int von, int nach) { uebertragknopf(von, nach); });
+    t_.linkespalteauffrischen = [this] { f_.modell().bildauffrischen(); };
+    t_.voreinstellmodus = [this](int von, int bis) {
+        voreinstellmodusbeginnen(f_.modell(), von, bis);
+    };
+    // Shown once the click on "Passwort ändern" is over, not from within its handler.
+    t_.passwortzeigen = [this] { QTimer::singleShot(0, this, [this] { formzeigen("Password"); }); };
     connect(&f_, &Form1Fenster::bemerkungGeklickt, this, [this] { seiteoeffnen(23); });
 }
 
@@ -114,6 +120,47 @@ void Tablettanbindung::seiteoeffnen(int seite) {
     });
 }
 
+void Tablettanbindung::uebertragknopf(int von, int nach) {
+    Form1& form = f_.modell();
+    if (form.voreinstellung.aktiv) {
+        int knopf = 0;
+        for (int k = 2; k <= 5; ++k)
+            if (const auto r = uebertragungsrichtung(k); r && r->first == von && r->second == nach)
+                knopf = k;
+        QProgressDialog fortschritt(QStringLiteral("Voreinstellungen werden übertragen ..."),
+                                    QString(), 0, 1, &f_);
+        fortschritt.setWindowTitle(QStringLiteral("Voreinstellungen"));
+        fortschritt.setWindowModality(Qt::WindowModal);
+        fortschritt.setMinimumDuration(300);
+        ausfuehren([&] {
+            voreinstellknopf(form, knopf, [&fortschritt](int erledigt, int gesamt) {
+                fortschritt.setMaximum(gesamt);
+                fortschritt.setValue(erledigt);
+                QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            });
+        });
+        return;
+    }
+    // No recalculation and no refresh: the screen shows the old data.
+    ausfuehren(
+        [&] { uebertragen(s_, static_cast<std::int16_t>(von), static_cast<std::int16_t>(nach)); });
+}
+
+void Tablettanbindung::formzeigen(const std::string& name) {
+    if (name == "Form14") {
+        auto* farben = new FarbenFenster(f_);
+        connect(farben, &FarbenFenster::entladen, farben, &QObject::deleteLater);
+        farben->laden();
+        return;
+    }
+    if (name == "Password") {
+        PasswortFenster passwort(s_, &f_);
+        passwort.zeigen();
+        f_.darstellen();
+        darstellen();
+    }
+}
+
 void Tablettanbindung::tablettauffrischen() {
     t_.auffrischen();
     // A run from the main screen's own handlers: the panel follows once they are done.
@@ -131,6 +178,11 @@ void Tablettanbindung::menueklick(const std::string& name) {
     ausfuehren([&] { lonvir::menueklick(ziel_, name); });
     if (ziel_.beendet)
         QApplication::exit(0);
+    if (ziel_.formwunsch) {
+        const std::string form = *ziel_.formwunsch;
+        ziel_.formwunsch.reset();
+        formzeigen(form);
+    }
     // A change of year may check and enable other entries: the bar is built again once
     // this click is over.
     if (p && (p->aktion == Menueaktion::jahr || p->aktion == Menueaktion::personalloeschen))

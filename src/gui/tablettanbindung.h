@@ -30,6 +30,10 @@ public:
     void darstellen();
     // Opens page `seite` as a menu entry or button does.
     void seiteoeffnen(int seite);
+    // A form of its own, as MFarben shows Form14, or the password form of page 70.
+    void formzeigen(const std::string& name);
+    // A transfer button: between the layers, or in the preset mode transfer and cancel.
+    void uebertragknopf(int von, int nach);
 
 private:
     // Anzeige: the rows go to the main screen, the refresh of the page to the panel.

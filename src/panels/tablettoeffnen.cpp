@@ -1,6 +1,8 @@
 // Opening a page: clear, width, placement beside or over the left column, dispatch, show.
+#include "engine/monatladen.h"
 #include "panels/seiten.h"
 #include "panels/tablett.h"
+#include "panels/vorgabeseiten.h"
 
 namespace lonvir {
 
@@ -24,7 +26,18 @@ Tablett::Tablett(Sitzung& sitzung, Form1lage& f, Hilfe* h) : s(sitzung), form(f)
         sozialbetraege(t);
     };
     bauer_[35] = teilzeitseite;
+    bauer_[2] = passwortseite;
+    bauer_[44] = tarifstrukturseite;
+    bauer_[61] = markierseite;
+    bauer_[63] = sozvorgabenseite;
+    bauer_[64] = weihnachtsseite;
+    bauer_[65] = zvkvorgabenseite;
     zeilenname = [this](int z) { return zeilenbezeichnung(s, z); };
+    linkespalteauffrischen = [this] {
+        const std::int16_t monat = s.merkmal[20] >= 0 && s.merkmal[20] <= 12 ? s.merkmal[20] : 0;
+        monatladen(s, s.aktuelleperson, monat);
+    };
+    passwortzeigen = [this] { passwortverlangt = true; };
 }
 
 void Tablett::seiteanmelden(int seite, Seitenbauer bauer) {

@@ -37,12 +37,16 @@ Menuepunkt jahresmenue(const Sitzung& s, int jahr, bool jahr1998) {
     wahl.markiert = jahrgewaehlt(s, jahr);
     Menuepunkt loeschen = eintrag("MSaetze" + j, j + "er Personaldaten löschen ...",
                                   Menueaktion::personalloeschen, jahr);
+    // The tariff structure is that of the open year: the entry of the other year waits.
+    Menuepunkt struktur = seite(jahr == 1997 ? "MHochrechnung97" : "Mhochrechnung98",
+                                "Tarifstruktur " + j + " festlegen", 44);
+    struktur.aktiv = jahr == 1997 ? s.ist1997() : !s.ist1997();
     if (jahr == 1998) {
         wahl.aktiv = jahr1998;
         loeschen.aktiv = jahr1998;
     }
     return menue(jahr == 1997 ? "M97" : "M98", jahr == 1997 ? "97" : "98",
-                 {std::move(wahl), std::move(loeschen)});
+                 {std::move(wahl), std::move(struktur), std::move(loeschen)});
 }
 
 std::vector<Menuepunkt> tabellenthemen() {
@@ -124,7 +128,16 @@ std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
     // The 1998 entries wait until a set of 1998 has been filled.
     const bool jahr1998 = !s.ist1997() || s.ordner.laenge("L1998I.1") >= 1;
     return {
-        menue("MDatei", "Wie", {eintrag("MBeenden", "Beenden", Menueaktion::beenden, 0)}),
+        menue("MDatei", "Wie",
+              {
+                  seite("Mpasswort", "Passwort ...", 2),
+                  eintrag("MFarben", "Farbe ...", Menueaktion::form, 14),
+                  seite("MVoreinstellungen", "Voreinstellungen ...", 61),
+                  seite("MSozVersDaten", "Sozialversicherungsdaten ...", 63),
+                  seite("MZVKDaten", "ZVK ...", 65),
+                  seite("MWeihnachten", "Weihnachtsgeld-Quote ...", 64),
+                  eintrag("MBeenden", "Beenden", Menueaktion::beenden, 0),
+              }),
         jahresmenue(s, 1997, jahr1998),
         jahresmenue(s, 1998, jahr1998),
         seite("MTeilzeit", "Tz", 35),
@@ -188,6 +201,9 @@ void menueklick(Menueziel& z, const std::string& name) {
         break;
     case Menueaktion::zeilenhilfe:
         zeilenhilfezeigen(z);
+        break;
+    case Menueaktion::form:
+        z.formwunsch = "Form" + std::to_string(p->zahl);
         break;
     case Menueaktion::keine:
         break;

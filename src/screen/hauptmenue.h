@@ -20,6 +20,7 @@ enum class Menueaktion {
     personalloeschen, // deletes the persons of year `zahl`
     beenden,          // MBeenden
     zeilenhilfe,      // MHilfe: the help of the current row
+    form,             // shows a form of its own; the entry's name says which (MFarben: Form14)
 };
 
 struct Menuepunkt {
@@ -49,6 +50,8 @@ struct Menueziel {
     Tablett& tablett;
     Hilfe* hilfe = nullptr;
     bool beendet = false;
+    // The form a click asks the window to show, e.g. "Form14".
+    std::optional<std::string> formwunsch = std::nullopt;
 };
 
 // The click on the entry `name`; an unknown name does nothing.

@@ -33,13 +33,17 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     const std::vector<Menuepunkt> leiste = hauptmenue(u.s);
     EXPECT_EQ(texte(leiste), (std::vector<std::string>{"Wie", "97", "98", "Tz", "LSt", "Soz", "ZVK",
                                                        "GTab", "Info", "?"}));
-    EXPECT_EQ(leiste[0].punkte[0].name, "MBeenden");
-    EXPECT_EQ(
-        texte(leiste[1].punkte),
-        (std::vector<std::string>{"Berechnungen für 1997", "1997er Personaldaten löschen ..."}));
-    EXPECT_EQ(
-        texte(leiste[2].punkte),
-        (std::vector<std::string>{"Berechnungen für 1998", "1998er Personaldaten löschen ..."}));
+    EXPECT_EQ(texte(leiste[0].punkte),
+              (std::vector<std::string>{"Passwort ...", "Farbe ...", "Voreinstellungen ...",
+                                        "Sozialversicherungsdaten ...", "ZVK ...",
+                                        "Weihnachtsgeld-Quote ...", "Beenden"}));
+    EXPECT_EQ(leiste[0].punkte.back().name, "MBeenden");
+    EXPECT_EQ(texte(leiste[1].punkte),
+              (std::vector<std::string>{"Berechnungen für 1997", "Tarifstruktur 1997 festlegen",
+                                        "1997er Personaldaten löschen ..."}));
+    EXPECT_EQ(texte(leiste[2].punkte),
+              (std::vector<std::string>{"Berechnungen für 1998", "Tarifstruktur 1998 festlegen",
+                                        "1998er Personaldaten löschen ..."}));
     EXPECT_EQ(leiste[3].name, "MTeilzeit");
     EXPECT_EQ(leiste[3].zahl, 35);
     EXPECT_EQ(leiste[4].zahl, 6);

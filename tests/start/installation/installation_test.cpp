@@ -101,7 +101,8 @@ TEST(Installation, DerErsteStartSetztDieInstallationEinUndAendertNichts) {
     EXPECT_TRUE(alledateien(i.ordner.pfad()) == alledateien(installiert));
     EXPECT_EQ(i.s.anzahlnamen, 20);
     EXPECT_EQ(textgetrimmt(i.s, 5001), "Lehmann, Frank");
-    EXPECT_EQ(textgetrimmt(i.s, 5007), "7. Name");
+    EXPECT_EQ(textgetrimmt(i.s, 5007), "Becker, Thomas");
+    EXPECT_EQ(textgetrimmt(i.s, 5008), "8. Name");
     EXPECT_EQ(textgetrimmt(i.s, 5020), "20. Name");
     EXPECT_EQ(textgetrimmt(i.s, 3613), "keine Lohnsteuer");
 }
@@ -378,9 +379,13 @@ TEST(Vorgaben, BeitragssaetzeUndGrenzen1997) {
     EXPECT_EQ(e.ab_tarif3, 7);
     EXPECT_EQ(e.ab_tarif4, 9);
     // Christmas bonus of the employees West: 3988.20 / 4252.72 = 0.9378 on the public
-    // calculator page; the civil servants' factors were not found and stay 0.
+    // calculator page; the civil servants' factor of 1997 is the same 0.9378 (0.9239 * 1.015);
+    // the employees in the Ost get 75 % of the West rate, 0.75 * 93.78 = 70.335; no factor
+    // was found for the civil servants in the Ost.
     EXPECT_EQ(e.zuwendungsquote[2], Currency::roh(937800));
-    EXPECT_EQ(e.zuwendungsquote[0], Currency::ganz(0));
+    EXPECT_EQ(e.zuwendungsquote[0], Currency::roh(937800));
+    EXPECT_EQ(e.zuwendungsquote[3], Currency::roh(703350));
+    EXPECT_EQ(e.zuwendungsquote[1], Currency::ganz(0));
     EXPECT_EQ(i.s.kvsatz[0][0], Currency::ganz(1340));
     EXPECT_EQ(i.s.kvsatz[11][27], Currency::ganz(1340));
 }
@@ -397,6 +402,8 @@ TEST(Vorgaben, BeitragssaetzeUndGrenzen1998) {
     EXPECT_EQ(e.ab_tarif2, 9);
     EXPECT_EQ(e.ab_tarif3, 0);
     EXPECT_EQ(e.zuwendungsquote[2], Currency::roh(923900)); // 2930.47 / 3171.85
+    EXPECT_EQ(e.zuwendungsquote[0], Currency::roh(923900)); // factor 0.9239 of 1998
+    EXPECT_EQ(e.zuwendungsquote[3], Currency::roh(692925)); // 0.75 * 92.39
     EXPECT_EQ(i.s.kvsatz[5][3], Currency::ganz(1360));
 }
 
@@ -426,7 +433,7 @@ TEST(Musterpersonal, DieBeamtinIstAngelegtUndDerStartStehtAufPersonEins) {
 // Every sample person is paid in January 1997 from the installed tables.
 TEST(Musterpersonal, JedePersonBekommtImJanuarBezuege) {
     Installiert i;
-    for (int person = 1; person <= 6; ++person) {
+    for (int person = 1; person <= 7; ++person) {
         const Personalsatz p = mustersatz(i, 1, person);
         EXPECT_GT(p.wert[7], 0) << "Person " << person;
         EXPECT_GT(p.wert[22], 0) << "Person " << person;
@@ -463,7 +470,7 @@ TEST(Musterpersonal, JedePersonBekommtImJanuarBezuege) {
 TEST(Musterpersonal, EinNeuesLadenJedesMonatsAendertNichts) {
     Installiert i;
     const auto vorher = alledateien(i.ordner.pfad());
-    for (std::int16_t person = 1; person <= 6; ++person)
+    for (std::int16_t person = 1; person <= 7; ++person)
         for (std::int16_t monat = 0; monat <= 11; ++monat)
             monatladen(i.s, person, monat);
     const auto nachher = alledateien(i.ordner.pfad());
