@@ -1,6 +1,7 @@
 // The start sequence: file set, settings, display settings, start lock, persons.
 #include "start/start.h"
 
+#include "core/ganzkopie.h"
 #include "core/journal.h"
 #include "core/pfennig.h"
 #include "start/bestandspruefung.h"
@@ -57,7 +58,8 @@ Startergebnis starten(Sitzung& s) {
     if (s.nurLesen) {
         lesendvorbereiten(s);
     } else {
-        // A store interrupted by the end of the process is finished first.
+        // A creation or a store interrupted by the end of the process is finished first.
+        ganzkopie::aufraeumen(s.ordner.ordner());
         journal::nachholen(s.ordner.ordner());
         // A working folder without a store is first seeded from the installation data.
         if (!s.installation.empty() && installation::ohnebestand(s.ordner))

@@ -112,6 +112,45 @@ TEST(Vorgang, DasErsteOeffnenVon1998AufVollerFestplatteZerreisstKeinenSatz) {
     }
 }
 
+TEST(Vorgang, EineAnlageAufVollerFestplatteLaesstKeinenHalbenOrdner) {
+    Stoerungsende ende;
+    Abbild ganz;
+    {
+        test::Musterumgebung m;
+        ganz = test::ordnerinhalt(m.ordner.pfad());
+    }
+    const auto anlegen = [](const fs::path& ordner) {
+        SkriptDialoge d;
+        Sitzung s;
+        s.ordner = Arbeitsordner(ordner);
+        s.installation = LONVIR_INSTALLATION;
+        s.dialoge = &d;
+        starten(s);
+    };
+    for (long k = 1;; k *= 2) {
+        test::Tempordner t;
+        schreibstoerung::einstellen(k);
+        std::string meldung;
+        try {
+            anlegen(t.pfad());
+        } catch (const Dateifehler& f) {
+            meldung = f.what();
+        }
+        schreibstoerung::einstellen(0);
+        if (meldung.empty()) {
+            EXPECT_GT(k, 1);
+            break;
+        }
+        // Nothing of the installation arrived: the next start creates the whole folder.
+        EXPECT_NE(meldung.find("Der Arbeitsordner wurde nicht angelegt."), std::string::npos)
+            << meldung;
+        EXPECT_TRUE(test::ordnerinhalt(t.pfad()).empty()) << k;
+        anlegen(t.pfad());
+        EXPECT_EQ(test::ordnerinhalt(t.pfad()), ganz) << k;
+        ASSERT_LT(k, 1L << 20);
+    }
+}
+
 TEST(Vorgang, EinLaufzeitfehlerVorDemSpeichernSchreibtNichts) {
     test::Musterumgebung m;
     monatladen(m.s, 1, 2);

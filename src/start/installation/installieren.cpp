@@ -2,6 +2,7 @@
 #include "start/installation/installieren.h"
 
 #include "core/dialoge.h"
+#include "core/ganzkopie.h"
 #include "core/laufzeitfehler.h"
 #include "start/installation/hilfeseiten.h"
 #include "start/installation/musterpersonal.h"
@@ -78,23 +79,11 @@ bool ohnebestand(const Arbeitsordner& ordner) {
 }
 
 bool einsetzen(const fs::path& installation, const Arbeitsordner& ordner) {
-    if (!fs::is_directory(installation))
+    if (!fs::is_directory(installation) || fs::is_empty(installation))
         return false;
-    ordner.anlegen();
-    bool kopiert = false;
-    for (const fs::directory_entry& e : fs::recursive_directory_iterator(installation)) {
-        const fs::path ziel = ordner.ordner() / fs::relative(e.path(), installation);
-        std::error_code fehler;
-        if (e.is_directory()) {
-            fs::create_directories(ziel, fehler);
-        } else if (e.is_regular_file()) {
-            fs::copy_file(e.path(), ziel, fs::copy_options::overwrite_existing, fehler);
-            kopiert = true;
-        }
-        if (fehler)
-            throw Dateifehler(ziel.string(), "Installationsdatei kann nicht angelegt werden");
-    }
-    return kopiert;
+    // All files arrive, or none: a full disk leaves the folder without a store.
+    ganzkopie::einsetzen(installation, ordner.ordner());
+    return true;
 }
 
 } // namespace lonvir::installation
