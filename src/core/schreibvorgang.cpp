@@ -6,6 +6,17 @@
 
 namespace lonvir {
 
+namespace {
+// The indices of a file's writes in the order they were made.
+template <typename Datei> std::vector<std::size_t> reihenfolge(const Datei& d) {
+    std::vector<std::size_t> reihe(d.saetze.size());
+    std::iota(reihe.begin(), reihe.end(), std::size_t{0});
+    std::sort(reihe.begin(), reihe.end(),
+              [&d](std::size_t a, std::size_t b) { return d.folge[a] < d.folge[b]; });
+    return reihe;
+}
+} // namespace
+
 std::string Schreibvorgang::schluessel(const std::filesystem::path& pfad) {
     return pfad.lexically_normal().string();
 }
@@ -52,10 +63,7 @@ void Schreibvorgang::ueberlagern(const std::filesystem::path& pfad, std::int64_t
     if (d.geloescht)
         std::fill(satz.begin(), satz.end(), std::uint8_t{0});
     // Writes in the order they were made, so that a later one wins where two overlap.
-    std::vector<std::size_t> reihe(d.saetze.size());
-    std::iota(reihe.begin(), reihe.end(), std::size_t{0});
-    std::sort(reihe.begin(), reihe.end(),
-              [&d](std::size_t a, std::size_t b) { return d.folge[a] < d.folge[b]; });
+    const std::vector<std::size_t> reihe = reihenfolge(d);
     const std::int64_t ende = versatz + static_cast<std::int64_t>(satz.size());
     for (std::size_t i : reihe) {
         const Schritt& s = d.saetze[i];
@@ -84,14 +92,11 @@ bool Schreibvorgang::loescht() const {
 
 std::vector<Schreibvorgang::Schritt> Schreibvorgang::schritte() const {
     std::vector<Schritt> alle;
-    for (const auto& [name, d] : dateien_) {
+    for (const auto& eintrag : dateien_) {
+        const Datei& d = eintrag.second;
         if (d.geloescht)
-            alle.push_back({Schritt::Art::loeschen, name, 0, {}});
-        std::vector<std::size_t> reihe(d.saetze.size());
-        std::iota(reihe.begin(), reihe.end(), std::size_t{0});
-        std::sort(reihe.begin(), reihe.end(),
-                  [&d](std::size_t a, std::size_t b) { return d.folge[a] < d.folge[b]; });
-        for (std::size_t i : reihe)
+            alle.push_back({Schritt::Art::loeschen, eintrag.first, 0, {}});
+        for (std::size_t i : reihenfolge(d))
             alle.push_back(d.saetze[i]);
     }
     return alle;
