@@ -16,7 +16,7 @@ const char* const aufruf =
     "Aufruf: lonvir97-cli BEFEHL [--ordner DIR] [--jahr 1997|1998] [--schicht INFO|PLAN|REAL]\n"
     "                    [--json] [--ja|--nein] ...\n"
     "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, einstellungen,\n"
-    "         drucken, installieren\n";
+    "         drucken, tarif, text, suchen, installieren\n";
 
 std::filesystem::path standardordner() {
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
@@ -55,6 +55,9 @@ constexpr Befehl befehle[] = {
     {"einstellungen", einstellungen, true},
     // drucken opens the folder itself, once its report and options are known to be good.
     {"drucken", drucken, false},
+    {"tarif", tarif, true},
+    {"text", text, true},
+    {"suchen", suchen, true},
 };
 
 const Befehl* befehlVon(const std::string& name) {

@@ -173,8 +173,8 @@ void hauptbildladen(Kontext& k) {
     monatladen(s, s.aktuelleperson, s.merkmal[20]);
 }
 
-// One pick or one typed value on the page, then its "Speichern". False when the page refused
-// the typed value at Enter: then nothing is stored.
+// One pick or one typed value on the page, not yet stored. False when the page refused the
+// typed value at Enter.
 bool seiteausfuehren(Kontext& k, Tablett& t, int seite) {
     const Optionen& o = k.optionen;
     const int feld = static_cast<int>(o.zahl("feld", 0, 17));
@@ -210,8 +210,6 @@ bool seiteausfuehren(Kontext& k, Tablett& t, int seite) {
         if (f.text.empty() && t.fokus == Tablettfokus{Tablettfokusart::text, feld})
             return false;
     }
-    if (seite != 2)
-        t.Command1_Click();
     return true;
 }
 
@@ -230,7 +228,6 @@ int einstellungen(Kontext& k, std::ostream& aus) {
                                "Personen für das Hauptbild und geht nur im Fenster.");
         if ((o.wert("auswahl") ? 1 : 0) + (o.wert("wert") ? 1 : 0) != 1)
             throw Aufruffehler("--seite braucht --feld und genau eines von --auswahl oder --wert.");
-        hauptbildladen(k);
         Form1lage lage;
         lage.breite = 12000;
         lage.panel3d2breite = 4800;
@@ -247,6 +244,13 @@ int einstellungen(Kontext& k, std::ostream& aus) {
                 aus << j.ergebnis() << "\n";
             }
             return 2;
+        }
+        // Only an entry the page took reaches the store: the screen's month is loaded (and
+        // with it stored, as the window's start does), then "Speichern". Page 2 wrote the
+        // lock at the pick.
+        if (seite != 2) {
+            hauptbildladen(k);
+            t.Command1_Click();
         }
     }
     if (k.json)

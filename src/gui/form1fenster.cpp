@@ -4,9 +4,11 @@
 #include "core/laufzeitfehler.h"
 #include "gui/farben.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
@@ -202,10 +204,44 @@ void Form1Fenster::kopfAufbauen(QWidget* kopf) {
     command1text_->setAlignment(Qt::AlignCenter);
     command1text_->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(command1_, &QPushButton::clicked, this, [this] { emit bemerkungGeklickt(); });
+    jahrwort_ = new QLabel(QStringLiteral("JAHR"), kopf);
+    jahrwort_->setObjectName(QStringLiteral("Jahrwort"));
+    jahrwort_->setAlignment(Qt::AlignCenter);
+    jahrwort_->setCursor(Qt::PointingHandCursor);
+    jahrwort_->setToolTip(QStringLiteral("Jahresübersicht"));
+    jahrwort_->setStyleSheet(QStringLiteral("color: #000080; font-weight: bold;"));
+    jahrwort_->installEventFilter(this);
+    command6_ = new QPushButton(QStringLiteral("Suchen"), kopf);
+    command6_->setObjectName(QStringLiteral("Command6"));
+    command6_->setFocusPolicy(Qt::NoFocus);
+    connect(command6_, &QPushButton::clicked, this, [this] { emit suchenGeklickt(); });
+    command7_ = new QPushButton(QStringLiteral("Reform"), kopf);
+    command7_->setObjectName(QStringLiteral("Command7"));
+    command7_->setFocusPolicy(Qt::NoFocus);
+    connect(command7_, &QPushButton::clicked, this, [this] { emit reformGeklickt(); });
     monatstitel_ = new QLabel(kopf);
     monatstitel_->setObjectName(QStringLiteral("Monatstitel"));
     monatstitel_->setAlignment(Qt::AlignCenter);
     monatstitel_->setStyleSheet(QStringLiteral("color: #000080; font-weight: bold;"));
+}
+
+// Letters typed into the name list offer the names that begin with them, the first marked:
+// Enter or a click on one makes that person current. A name that no one bears is a rename.
+void Form1Fenster::namenvervollstaendigen(QComboBox* liste) {
+    QCompleter* c = liste->completer();
+    if (c == nullptr) {
+        c = new QCompleter(liste->model(), liste);
+        liste->setCompleter(c);
+    }
+    c->setCaseSensitivity(Qt::CaseInsensitive);
+    c->setFilterMode(Qt::MatchStartsWith);
+    c->setCompletionMode(QCompleter::PopupCompletion);
+    connect(liste->lineEdit(), &QLineEdit::textEdited, this, [c] {
+        QTimer::singleShot(0, c, [c] {
+            if (c->popup()->isVisible() && c->completionCount() > 0)
+                c->popup()->setCurrentIndex(c->completionModel()->index(0, 0));
+        });
+    });
 }
 
 void Form1Fenster::verbinden(int zeile) {
@@ -214,6 +250,8 @@ void Form1Fenster::verbinden(int zeile) {
         w.z->installEventFilter(this);
         if (w.z->lineEdit())
             w.z->lineEdit()->installEventFilter(this);
+        if (zeile == 0)
+            namenvervollstaendigen(w.z);
         connect(w.z, &QComboBox::activated, this, [this, zeile](int position) {
             ausfuehren([&] {
                 modell_.bild.zeilen[static_cast<std::size_t>(zeile)].position = position;
@@ -251,6 +289,10 @@ void Form1Fenster::ausfuehren(const std::function<void()>& handler) {
 bool Form1Fenster::eventFilter(QObject* objekt, QEvent* ereignis) {
     if (darstellend_ || laeuft_)
         return QMainWindow::eventFilter(objekt, ereignis);
+    if (objekt == jahrwort_ && ereignis->type() == QEvent::MouseButtonRelease) {
+        emit jahrGeklickt();
+        return true;
+    }
     for (int i = 0; i < 3; ++i)
         if (objekt == schichtpanels_[static_cast<std::size_t>(i)] &&
             ereignis->type() == QEvent::MouseButtonRelease) {

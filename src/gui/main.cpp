@@ -6,14 +6,18 @@
 #include "gui/qtdialoge.h"
 #include "gui/startform.h"
 #include "gui/tablettanbindung.h"
+#include "gui/uebersichtanbindung.h"
+#include "gui/vorschau.h"
 #include "start/bestandspruefung.h"
 #include "start/start.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
@@ -29,6 +33,8 @@ struct Aufruf {
     int seite = 0;          // a page of the panel opened for the picture
     QString form;           // a form shown for the picture: Form14 or Password
     QString markiert;       // the preset mode for the records VON-BIS, for the picture
+    QString menue;          // a menu entry clicked for the picture; a form it shows is taken
+    QString suche;          // a name searched on page 22 for the picture
 };
 
 Aufruf aufrufLesen(const QApplication& app) {
@@ -46,14 +52,21 @@ Aufruf aufrufLesen(const QApplication& app) {
     const QCommandLineOption seite(QStringLiteral("seite"),
                                    QStringLiteral("Seite des Tabletts für das Bild"),
                                    QStringLiteral("N"));
+    const QCommandLineOption menue(QStringLiteral("menue"),
+                                   QStringLiteral("Menüpunkt für das Bild, z. B. M_KV"),
+                                   QStringLiteral("NAME"));
     const QCommandLineOption form(QStringLiteral("form"),
-                                  QStringLiteral("Form für das Bild: Form14 oder Password"),
+                                  QStringLiteral("Form für das Bild: Form14, Password, Form3 "
+                                                 "oder Form2"),
                                   QStringLiteral("NAME"));
     const QCommandLineOption markiert(
         QStringLiteral("voreinstellung"),
         QStringLiteral("Hauptbild im Voreinstellungsmodus für die Datensätze VON-BIS"),
         QStringLiteral("VON-BIS"));
-    p.addOptions({ordner, foto, groesse, seite, form, markiert});
+    const QCommandLineOption suche(QStringLiteral("suche"),
+                                   QStringLiteral("Namenssuche der Seite 22 für das Bild"),
+                                   QStringLiteral("TEXT"));
+    p.addOptions({ordner, foto, groesse, seite, form, markiert, menue, suche});
     p.process(app);
     Aufruf a;
     a.ordner = p.isSet(ordner) ? p.value(ordner)
@@ -65,6 +78,8 @@ Aufruf aufrufLesen(const QApplication& app) {
     a.seite = p.value(seite).toInt();
     a.form = p.value(form);
     a.markiert = p.value(markiert);
+    a.menue = p.value(menue);
+    a.suche = p.value(suche);
     return a;
 }
 
@@ -73,6 +88,10 @@ void fotografieren(lonvir::gui::Form1Fenster& fenster, lonvir::gui::Tablettanbin
     fenster.geometrieFesthalten();
     if (a.groesse.isValid())
         fenster.resize(a.groesse);
+    // A form that a page or a menu entry shows is the picture itself.
+    static QPointer<QDialog> form;
+    QObject::connect(&tablett, &lonvir::gui::Tablettanbindung::formGezeigt, &fenster,
+                     [](QDialog* f) { form = f; });
     QTimer::singleShot(500, &fenster, [&fenster, &tablett, a] {
         fenster.bildausrechnen(true);
         fenster.darstellen();
@@ -95,11 +114,32 @@ void fotografieren(lonvir::gui::Form1Fenster& fenster, lonvir::gui::Tablettanbin
             QApplication::exit(passwort->grab().save(a.bildschirmfoto) ? 0 : 4);
             return;
         }
+        if (a.form == QStringLiteral("Form3") || a.form == QStringLiteral("Form2")) {
+            // The annual overview of the main screen's person, or the totals of all staff.
+            tablett.formzeigen(a.form.toStdString());
+            auto* uebersicht = fenster.findChild<QWidget*>(a.form);
+            if (a.groesse.isValid())
+                uebersicht->resize(a.groesse);
+            QApplication::processEvents();
+            QApplication::exit(uebersicht->grab().save(a.bildschirmfoto) ? 0 : 4);
+            return;
+        }
         if (a.form == QStringLiteral("Form14"))
             tablett.formzeigen("Form14");
+        if (!a.menue.isEmpty())
+            tablett.menueklick(a.menue.toStdString());
+        if (a.seite == 22 && !a.suche.isEmpty()) {
+            QLineEdit* feld = tablett.ansicht()->text(1);
+            feld->setText(a.suche);
+            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+            QApplication::sendEvent(feld, &enter);
+        }
         QApplication::processEvents();
-        const bool gespeichert = fenster.grab().save(a.bildschirmfoto);
-        QApplication::exit(gespeichert ? 0 : 4);
+        QTimer::singleShot(300, &fenster, [&fenster, a] {
+            const bool gespeichert =
+                form ? form->grab().save(a.bildschirmfoto) : fenster.grab().save(a.bildschirmfoto);
+            QApplication::exit(gespeichert ? 0 : 4);
+        });
     });
 }
 
@@ -143,6 +183,8 @@ int main(int argc, char** argv) {
         lonvir::gui::Form1Fenster fenster(s, dialoge, &hilfe);
         dialoge.elternSetzen(&fenster);
         lonvir::gui::Tablettanbindung tablett(fenster, s, &hilfe);
+        lonvir::gui::Uebersichtanbindung uebersichten(fenster, tablett, s,
+                                                      lonvir::gui::vorschaudruck(&fenster));
         fenster.laden();
         tablett.menueaufbauen();
         start.close();

@@ -1,8 +1,15 @@
 // Wiring of the panel and the menu to the window Form1.
 #include "gui/tablettanbindung.h"
 
+#include "engine/berechnen.h"
 #include "gui/farbenfenster.h"
+#include "gui/kvfenster.h"
 #include "gui/passwortfenster.h"
+#include "gui/tarifefenster.h"
+#include "gui/texteditfenster.h"
+#include "panels/namen.h"
+#include "panels/seiten.h"
+#include "panels/tarife.h"
 #include "screen/uebertragung.h"
 #include "screen/voreinstellmodus.h"
 
@@ -11,6 +18,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 
@@ -46,6 +54,42 @@ Tablettanbindung::Tablettanbindung(Form1Fenster& fenster, Sitzung& s, Hilfe* hil
     // Shown once the click on "Passwort ändern" is over, not from within its handler.
     t_.passwortzeigen = [this] { QTimer::singleShot(0, this, [this] { formzeigen("Password"); }); };
     connect(&f_, &Form1Fenster::bemerkungGeklickt, this, [this] { seiteoeffnen(23); });
+    connect(&f_, &Form1Fenster::jahrGeklickt, this, [this] { menueklick("MJahr"); });
+    t_.seiteanmelden(66, vkeseite);
+    connect(&f_, &Form1Fenster::suchenGeklickt, this, [this] { seiteoeffnen(22); });
+    connect(&f_, &Form1Fenster::reformGeklickt, this, [this] {
+        // Before the law in force the page stays shut and the button says so.
+        if (!reformseiteoffen(s_)) {
+            f_.command7()->setText(QString::fromUtf8(reformgesperrt));
+            f_.command7()->setToolTip(QString::fromUtf8(reformgesperrt));
+            return;
+        }
+        f_.command7()->setText(QStringLiteral("Reform"));
+        seiteoeffnen(68);
+    });
+}
+
+// The main screen's part in a change of the tables: the model of Form1 does it.
+Hauptbildauftrag Tablettanbindung::hauptbildauftrag() {
+    Hauptbildauftrag a;
+    a.bildauffrischen = [this] { f_.modell().bildauffrischen(); };
+    a.listenauffrischen = [this] {
+        Form1& f = f_.modell();
+        s_.aenderungssperre = -1;
+        f.listenfuellen();
+        f.namensliste();
+        s_.aenderungssperre = 0;
+        f.bildauffrischen();
+    };
+    a.nachrechnen = [this] {
+        Form1& f = f_.modell();
+        f.kvliste();
+        s_.aenderungscode = 0;
+        s_.Neuberechnung = -1;
+        lonvir::nachrechnen(s_);
+        f.allezeilen();
+    };
+    return a;
 }
 
 Tablettanbindung::~Tablettanbindung() {
@@ -92,9 +136,16 @@ void Tablettanbindung::darstellen() {
         ansicht_->raise();
     if (QWidget* p2 = f_.centralWidget()->findChild<QWidget*>(QStringLiteral("Panel3D2")))
         p2->setVisible(lage_.panel3d2sichtbar);
+    if (t_.formwunsch == std::optional<std::string>("Form2")) {
+        // The totals chosen on page 66 open once the click is over.
+        t_.formwunsch.reset();
+        QTimer::singleShot(0, this, [this] { formzeigen("Form2"); });
+    }
     if (t_.formwunsch) {
         // The wage-tax table viewer comes with its own window; until then nothing opens.
+        const std::string name = *t_.formwunsch;
         t_.formwunsch.reset();
+        formzeigen(name);
     }
 }
 
@@ -147,6 +198,11 @@ void Tablettanbindung::uebertragknopf(int von, int nach) {
 }
 
 void Tablettanbindung::formzeigen(const std::string& name) {
+    if (name == "Form2" || name == "Form3") {
+        if (uebersichtzeigen)
+            uebersichtzeigen(name);
+        return;
+    }
     if (name == "Form14") {
         auto* farben = new FarbenFenster(f_);
         connect(farben, &FarbenFenster::entladen, farben, &QObject::deleteLater);
@@ -158,7 +214,26 @@ void Tablettanbindung::formzeigen(const std::string& name) {
         passwort.zeigen();
         f_.darstellen();
         darstellen();
+        return;
     }
+    // The forms that keep the tables open beside the main screen.
+    const auto ereignis = [this](const std::function<void()>& h) { ausfuehren(h); };
+    QDialog* form = nullptr;
+    if (name == "Tarife" && tarifseite(s_.Tablettseite))
+        form = new TarifeFenster(s_, s_.Tablettseite, hauptbildauftrag(), ereignis, &f_);
+    else if (name == "KV")
+        form = new KvFenster(s_, hauptbildauftrag(), ereignis, &f_);
+    else if (name == "Textedit")
+        form = new TexteditFenster(s_, t_.textvon, t_.textbis, hauptbildauftrag(), ereignis, &f_);
+    if (form == nullptr)
+        return; // the totals form Form2 comes with its own unit
+    // Left and top of the main form, 320 twips lower.
+    const double tpp = twipsJePixel();
+    form->move(f_.mapToGlobal(QPoint(0, static_cast<int>(std::lround(320 / tpp)))));
+    form->setModal(false);
+    form->show();
+    form->raise();
+    emit formGezeigt(form);
 }
 
 void Tablettanbindung::tablettauffrischen() {

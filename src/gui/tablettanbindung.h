@@ -5,9 +5,11 @@
 
 #include "gui/form1fenster.h"
 #include "gui/tablettfenster.h"
+#include "panels/hauptbildauftrag.h"
 #include "panels/tablett.h"
 #include "screen/hauptmenue.h"
 
+#include <QDialog>
 #include <QObject>
 
 #include <memory>
@@ -34,6 +36,12 @@ public:
     void formzeigen(const std::string& name);
     // A transfer button: between the layers, or in the preset mode transfer and cancel.
     void uebertragknopf(int von, int nach);
+    // Shows the annual overview "Form3" or the totals "Form2" (their own unit).
+    std::function<void(const std::string&)> uebersichtzeigen;
+
+signals:
+    // A form of its own (tariffs, rates, texts) has been shown.
+    void formGezeigt(QDialog* form);
 
 private:
     // Anzeige: the rows go to the main screen, the refresh of the page to the panel.
@@ -42,6 +50,7 @@ private:
     void mauszeigerNormal() override { f_.modell().mauszeigerNormal(); }
 
     void ausfuehren(const std::function<void()>& handler);
+    [[nodiscard]] Hauptbildauftrag hauptbildauftrag();
     void formlageholen();
     [[nodiscard]] double twipsJePixel() const;
 

@@ -98,6 +98,8 @@ TablettFenster::TablettFenster(Tablett& modell,
             [this] { ereignis_([this] { t_.command2_Click(); }); });
     connect(knoepfe_[2], &QPushButton::clicked, this,
             [this] { ereignis_([this] { t_.Command3_Click(); }); });
+    connect(knoepfe_[3], &QPushButton::clicked, this,
+            [this] { ereignis_([this] { t_.Command4_Click(); }); });
     for (std::size_t i = 0; i < 3; ++i) {
         rollbalken_[i] = new QScrollBar(Qt::Horizontal, this);
         rollbalken_[i]->setObjectName(QStringLiteral("HScroll%1").arg(i + 1));
@@ -216,6 +218,9 @@ void TablettFenster::darstellen(double twipsJePixel) {
             b->addItem(qtext(eintrag));
         b->setCurrentIndex(c.position);
         b->setGeometry(rechteck(c.lage));
+        b->setFont(schrift("arial", c.schriftgroesse, false));
+        b->setStyleSheet(QStringLiteral("QComboBox { color: %1; background: %2; }")
+                             .arg(farbe(c.vordergrund), farbe(c.hintergrund)));
         b->setEnabled(c.aktiv);
         b->setVisible(c.sichtbar);
     }

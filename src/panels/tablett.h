@@ -45,6 +45,8 @@ struct Tablettliste {
     std::vector<std::string> liste;
     int position = -1;
     int vordergrund = 0;
+    int hintergrund = 15;
+    double schriftgroesse = 8.25;
 };
 
 // A label of the array zeile: a row caption.
@@ -156,12 +158,23 @@ public:
     std::int16_t Schirmsperre = 0; // -1 while a batch pass over the records runs
     bool wirdgeoeffnet = false;    // set while tablettoeffnen runs
     bool gespeichert = false;      // the store mark of the form
-    // A form the panel asks the face to show, e.g. "LStrTab" after a click on page 6.
+    // A form the panel asks the face to show, e.g. "LStrTab" after a click on page 6, "Form2"
+    // from page 66 with the choice of Combo(0), "Form3" from the menu.
     std::optional<std::string> formwunsch;
     // The levy per pay row of page 8 for civil servants, Pfennig.
     Feld<std::int32_t, 0, 27> umlagewert;
     // The text z(row) shows on the main screen; the screen model supplies it.
     std::function<std::string(int)> zeilenname;
+    // Page 22: the search text, the hits as list positions at 1 to 7 (shown in zeile(10 + i)),
+    // and their number.
+    std::string suchtext;
+    Feld<std::int16_t, 0, 8> trefferliste;
+    std::int16_t trefferzahl = 0;
+    // Page 4: the cost centre chosen, 35 characters; blank when all staff are summed.
+    std::string kostenstellenauswahl = std::string(35, ' ');
+    // The range of the text table the text editor opens on; the entries of "Txt" set it.
+    std::int16_t textvon = 1;
+    std::int16_t textbis = 6000;
     // What the settings pages ask of the main screen. Without a window the refresh of the
     // left column loads the month with its run, the preset mode only keeps its range, and
     // the password form is only noted.
@@ -185,6 +198,7 @@ public:
     void Command1_Click();
     void command2_Click();
     void Command3_Click();
+    void Command4_Click();
     void combo_GotFocus(int index);
     // A pick in Combo(index): its position is already in the model.
     void combo_Click(int index);

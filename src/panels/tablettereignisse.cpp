@@ -1,4 +1,5 @@
 // The events of the panel: the buttons, the clicks that hand back to Form1, the form's own.
+#include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tablett.h"
 #include "panels/vorgabeseiten.h"
@@ -63,6 +64,9 @@ void Tablett::Command1_Click() {
     case 23:
         jahreswertespeichern(*this);
         break;
+    case 66:
+        vkeerlaeuterung(*this);
+        break;
     case 44:
         tarifstrukturspeichern(*this);
         break;
@@ -87,6 +91,16 @@ void Tablett::combo_Click(int index) {
     // The settings pages take their lists at "Speichern"; page 2 writes the lock at once.
     if (s.Tablettseite == 2 && index == 0)
         passwortartklick(*this);
+    // On page 4 only a choice after the focus came to the list is the user's.
+    if (s.Tablettseite == 4 && index == 0 && Comboaktiv == 1) {
+        Comboaktiv = 0;
+        kostenstellewaehlen(*this);
+    }
+    // Page 66: the chosen cost centre's totals; position 0 is all staff.
+    if (s.Tablettseite == 66 && index == 0 && Combo[0].sichtbar) {
+        schliessen();
+        formwunsch = "Form2";
+    }
 }
 
 int Tablett::text_KeyPress(int index, int taste) {
@@ -97,6 +111,13 @@ int Tablett::text_KeyPress(int index, int taste) {
         return weihnachtstaste(*this, index, taste);
     case 65:
         return zvktaste(*this, index, taste);
+    case 22:
+        // Enter in the search field starts the name search.
+        if (index == 1 && taste == 13) {
+            namensuchen(*this);
+            return 0;
+        }
+        return taste;
     default:
         return taste;
     }
@@ -134,6 +155,10 @@ void Tablett::Command3_Click() {
         return;
     }
     const int seite = s.Tablettseite;
+    if (seite == 66) {
+        kostenstellenliste(*this);
+        return;
+    }
     const auto kontext = hilfekontext(seite, s.personalart());
     if (kontext)
         Hilfeseite = *kontext;
@@ -141,6 +166,11 @@ void Tablett::Command3_Click() {
         return;
     if (hilfe)
         hilfe->zeigen(Hilfeseite);
+}
+
+void Tablett::Command4_Click() {
+    if (s.Tablettseite == 66)
+        gesamtauswertung(*this);
 }
 
 void Tablett::combo_GotFocus(int index) {
@@ -152,7 +182,9 @@ void Tablett::text_GotFocus(int index) {
     fokus = {Tablettfokusart::text, index};
 }
 
-void Tablett::zeile_Click(int) {
+void Tablett::zeile_Click(int index) {
+    if (s.Tablettseite == 22 && index >= 10 && index <= 18)
+        trefferwaehlen(*this, index);
     if (erklaerseite(s.Tablettseite))
         schliessen();
 }

@@ -21,6 +21,8 @@ enum class Menueaktion {
     beenden,          // MBeenden
     zeilenhilfe,      // MHilfe: the help of the current row
     form,             // shows a form of its own; the entry's name says which (MFarben: Form14)
+    kv,               // shows the form KV of the health-insurance rates
+    texte,            // shows Textedit on the range of the entry (the menu "Txt")
 };
 
 struct Menuepunkt {

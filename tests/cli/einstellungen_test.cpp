@@ -86,6 +86,30 @@ TEST(CliEinstellungen, Seite61UndFalscheOptionen) {
     EXPECT_EQ(clilauf("einstellungen " + o + " --seite 63 --feld 1").status, 2);
 }
 
+TEST(CliEinstellungen, JedeListeWeistPositionenAusserhalbAb) {
+    test::Tempordner t;
+    const std::string o = "--leer --ordner " + t.pfad().string();
+    ASSERT_EQ(clilauf("anlegen " + o).status, 0);
+    const std::string voe = test::dateiinhalt(t.pfad(), "Lonvir97.voe");
+    const std::string dim = test::dateiinhalt(t.pfad(), "Lonvir97.dim");
+    const std::pair<const char*, const char*> falsch[] = {
+        {"--seite 63 --feld 0 --auswahl 42", "hat 42 Einträge"},
+        {"--seite 63 --feld 9 --auswahl -1", "hat 13 Einträge"},
+        {"--seite 65 --feld 2 --auswahl 11", "hat 11 Einträge"},
+        {"--seite 44 --feld 6 --auswahl 13", "hat 13 Einträge"},
+        {"--seite 44 --feld 0 --auswahl 0", "hat keine Liste Combo(0)"},
+        {"--seite 2 --feld 0 --auswahl 2", "hat 2 Einträge"},
+        {"--seite 64 --feld 4 --wert 5", "hat kein Feld Text(4)"},
+    };
+    for (const auto& [aufruf, meldung] : falsch) {
+        const test::Clilauf l = clilauf("einstellungen " + o + " " + aufruf, true);
+        EXPECT_EQ(l.status, 2) << aufruf;
+        EXPECT_TRUE(enthaelt(l.aus, meldung)) << aufruf << ": " << l.aus;
+    }
+    EXPECT_EQ(test::dateiinhalt(t.pfad(), "Lonvir97.voe"), voe);
+    EXPECT_EQ(test::dateiinhalt(t.pfad(), "Lonvir97.dim"), dim);
+}
+
 TEST(CliEinstellungen, StartsperreAufSeite2) {
     test::Tempordner t;
     const std::string o = "--leer --ordner " + t.pfad().string();
