@@ -65,8 +65,17 @@ void dateikopieren(const fs::path& von, const fs::path& nach) {
                                                         nichtsAngelegt);
 }
 
+// A folder of the copy; a folder that cannot be made is a file error that names it.
+void ordneranlegen(const fs::path& ordner) {
+    std::error_code fehler;
+    fs::create_directories(ordner, fehler);
+    if (fehler)
+        throw Dateifehler(ordner.string(), "Ordner kann nicht angelegt werden (" +
+                                               fehler.message() + "). " + nichtsAngelegt);
+}
+
 void baumkopieren(const fs::path& quelle, const fs::path& ziel) {
-    fs::create_directories(ziel);
+    ordneranlegen(ziel);
     for (const fs::directory_entry& e : fs::directory_iterator(quelle)) {
         const fs::path nach = ziel / e.path().filename();
         if (e.is_directory())
@@ -78,7 +87,7 @@ void baumkopieren(const fs::path& quelle, const fs::path& ziel) {
 
 // Moves the entries of `von` into `nach`; a folder that is there already is merged into.
 void verschieben(const fs::path& von, const fs::path& nach) {
-    fs::create_directories(nach);
+    ordneranlegen(nach);
     for (const fs::directory_entry& e : fs::directory_iterator(von)) {
         if (e.path().filename() == fertigmarke)
             continue;
@@ -98,7 +107,7 @@ void verschieben(const fs::path& von, const fs::path& nach) {
 void einsetzen(const fs::path& quelle, const fs::path& ziel) {
     const fs::path neu = ziel / zwischenname;
     std::error_code fehler;
-    fs::create_directories(ziel, fehler);
+    ordneranlegen(ziel);
     fs::remove_all(neu, fehler);
     try {
         baumkopieren(quelle, neu);
