@@ -3,7 +3,7 @@ BUILD   ?= build
 ORDNER  ?= $(CURDIR)/arbeitsordner
 JOBS    ?= $(shell nproc)
 
-.PHONY: deps configure build run test test-lang sanitizer bench format clean
+.PHONY: deps configure build run test test-lang sanitizer bench fuzz format clean
 
 deps:
 	@scripts/install-deps.sh
@@ -20,7 +20,8 @@ run: build
 test: build
 	@cd $(BUILD) && ctest --output-on-failure -j $(JOBS) -LE lang
 
-# The long-running tests (label "lang"): interruptions at every step, 50 kills.
+# The long runs (label "lang"): the year change interrupted at every step and killed 50 times,
+# 300 input series killed at random moments.
 test-lang: build
 	@cd $(BUILD) && ctest --output-on-failure -j $(JOBS) -L lang
 
@@ -31,6 +32,12 @@ sanitizer: deps
 	@cmake --build build-asan -j $(JOBS)
 	@cd build-asan && ctest --output-on-failure -j $(JOBS) -LE lang
 
+# Every fuzz target for FUZZZEIT seconds (clang's libFuzzer, address and undefined-behaviour
+# checks); new crash inputs land in build-fuzz/funde/, to be kept under tests/fuzz/funde/.
+FUZZZEIT ?= 60
+fuzz: deps
+	@scripts/fuzz.sh build-fuzz $(FUZZZEIT) $(JOBS)
+
 bench: build
 	@$(BUILD)/bench/lonvir_bench
 
@@ -38,4 +45,4 @@ format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
 clean:
-	@rm -rf $(BUILD) build-asan
+	@rm -rf $(BUILD) build-asan build-fuzz

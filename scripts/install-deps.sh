@@ -9,6 +9,7 @@ pakete=(
     xvfb xauth clang-format
     qt6-translations-l10n fonts-liberation poppler-utils
     python3
+    clang-14 libclang-rt-14-dev
 )
 
 fehlend=()

@@ -36,6 +36,15 @@ Umgebung::Umgebung(std::int16_t jahr, std::int16_t schicht) {
     starten(s);
 }
 
+Musterumgebung::Musterumgebung(std::int16_t jahr, std::int16_t schicht) {
+    s.ordner = Arbeitsordner(ordner.pfad());
+    s.installation = LONVIR_INSTALLATION;
+    s.dialoge = &dialoge;
+    s.jahr = jahr;
+    s.schicht = schicht;
+    starten(s);
+}
+
 LeereUmgebung::LeereUmgebung(std::int16_t schicht) {
     s.ordner = Arbeitsordner(ordner.pfad());
     s.dialoge = &dialoge;
@@ -54,6 +63,18 @@ void ueberstundensatzsetzen(Sitzung& s, std::int32_t pfennig) {
 std::string dateiinhalt(const fs::path& ordner, const std::string& name) {
     std::ifstream ein(Arbeitsordner(ordner).pfad(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
+}
+
+void dateisetzen(const fs::path& ordner, const std::string& name, const std::string& inhalt) {
+    std::ofstream(Arbeitsordner(ordner).pfad(name), std::ios::binary | std::ios::trunc) << inhalt;
+}
+
+std::map<std::string, std::string> ordnerinhalt(const fs::path& ordner) {
+    std::map<std::string, std::string> alle;
+    for (const fs::directory_entry& e : fs::directory_iterator(ordner))
+        if (e.is_regular_file())
+            alle[e.path().filename().string()] = dateiinhalt(ordner, e.path().filename().string());
+    return alle;
 }
 
 } // namespace lonvir::test

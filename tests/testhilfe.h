@@ -5,6 +5,7 @@
 #include "start/sitzung.h"
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -40,11 +41,24 @@ struct LeereUmgebung {
     Sitzung s;
 };
 
+// A session on a temporary folder seeded with the installation data (sample staff), started.
+struct Musterumgebung {
+    explicit Musterumgebung(std::int16_t jahr = 1997, std::int16_t schicht = 0);
+    Tempordner ordner;
+    SkriptDialoge dialoge;
+    Sitzung s;
+};
+
 // Writes the overtime rate (element 26) of the current person's tariff line of the month;
 // the rate comes from the tariff on every full run, so a typed rate does not hold.
 void ueberstundensatzsetzen(Sitzung& s, std::int32_t pfennig);
 
 // The bytes of a file of the folder, matched without regard to case.
 [[nodiscard]] std::string dateiinhalt(const std::filesystem::path& ordner, const std::string& name);
+// Replaces a file of the folder by `inhalt`.
+void dateisetzen(const std::filesystem::path& ordner, const std::string& name,
+                 const std::string& inhalt);
+// Every file of the folder (not its subfolders) by name, with its bytes.
+[[nodiscard]] std::map<std::string, std::string> ordnerinhalt(const std::filesystem::path& ordner);
 
 } // namespace lonvir::test

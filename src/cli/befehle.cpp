@@ -48,7 +48,7 @@ constexpr Befehl befehle[] = {
     {"anlegen", anlegen, true},
     {"zeigen", zeigen, true},
     {"setzen", setzen, true},
-    {"satz", satz, true},
+    {"satz", satz, false},
     {"uebertragen", uebertragen, true},
     {"lohnsteuer", lohnsteuer, false},
     {"tabelle", tabelle, false},
@@ -87,6 +87,8 @@ Kontext::Kontext(const Optionen& o, bool mitOrdner)
     s.dialoge = &dialoge;
     s.jahr = static_cast<std::int16_t>(o.zahl("jahr", 1997, 1998, 1997));
     s.schicht = schichtAus(o);
+    // A read-only command opens the files for reading only and writes nothing.
+    s.nurLesen = o.schalter("nur-lesen");
     if (mitOrdner)
         starten(s);
 }

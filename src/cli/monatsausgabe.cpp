@@ -3,6 +3,8 @@
 
 #include "core/betragstext.h"
 #include "core/cp1252.h"
+#include "engine/berechnen.h"
+#include "start/satzzugriff.h"
 
 #include <iomanip>
 #include <ostream>
@@ -54,11 +56,32 @@ void monatwaehlen(Kontext& k) {
     const std::unique_ptr<Form1> form = hauptformoeffnen(k);
 }
 
-std::unique_ptr<Form1> hauptformoeffnen(Kontext& k) {
+namespace {
+long personoption(Kontext& k) {
     const long person = k.optionen.zahl("person", 1, 1000);
     if (person > k.s.anzahlnamen)
         throw Aufruffehler("Person " + std::to_string(person) + " gibt es nicht; angelegt sind " +
                            std::to_string(k.s.anzahlnamen) + ".");
+    return person;
+}
+} // namespace
+
+void gespeichertenmonatladen(Kontext& k) {
+    const long person = personoption(k);
+    const long monat = k.optionen.zahl("monat", 1, 13);
+    k.s.aktuelleperson = static_cast<std::int16_t>(person);
+    k.s.merkmal[0] = static_cast<std::int16_t>(person - 1);
+    k.s.merkmal[20] = static_cast<std::int16_t>(monat - 1);
+    if (monat == 13) {
+        jahressumme(k.s);
+    } else {
+        satzlesen(k.s);
+        eingabewerte(k.s);
+    }
+}
+
+std::unique_ptr<Form1> hauptformoeffnen(Kontext& k) {
+    const long person = personoption(k);
     const long monat = k.optionen.zahl("monat", 1, 13);
     auto form = std::make_unique<Form1>(k.s);
     form->listenfuellen();

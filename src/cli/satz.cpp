@@ -3,6 +3,7 @@
 
 #include "cli/satzjson.h"
 #include "core/laufzeitfehler.h"
+#include "start/start.h"
 
 #include <ostream>
 #include <vector>
@@ -16,10 +17,14 @@ int satz(Kontext& k, std::ostream& aus) {
     const Satzart art = satzartVon(name);
     if (art == Satzart::unbekannt)
         throw Aufruffehler("Die Datei " + name + " gehört nicht zum Dateisatz.");
+    // A file that is not there yet is created as the start of the program creates the set;
+    // an existing one is only read, so that a read-only folder can be dumped.
+    if (!k.s.ordner.vorhanden(name))
+        starten(k.s);
     if (!k.s.ordner.vorhanden(name))
         throw Dateifehler(name, "ist nicht vorhanden");
     Satzdatei d;
-    d.oeffnen(k.s.ordner.pfad(name), satzlaengeVon(art, nummer));
+    d.lesendoeffnen(k.s.ordner.pfad(name), satzlaengeVon(art, nummer));
     std::vector<std::uint8_t> b(static_cast<std::size_t>(d.satzlaenge()));
     d.lesen(static_cast<std::int32_t>(nummer), b);
     aus << satzAlsJson(art, name, nummer, b) << "\n";

@@ -5,8 +5,11 @@
 namespace lonvir::cli {
 
 int zeigen(Kontext& k, std::ostream& aus) {
-    k.optionen.nurErlaubt({"person", "monat"});
-    monatwaehlen(k);
+    k.optionen.nurErlaubt({"person", "monat", "nur-lesen"});
+    if (k.s.nurLesen)
+        gespeichertenmonatladen(k);
+    else
+        monatwaehlen(k);
     monatausgeben(k, aus);
     return 0;
 }

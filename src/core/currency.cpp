@@ -76,10 +76,13 @@ Currency Currency::operator*(Currency b) const {
 }
 
 std::string Currency::text() const {
-    int64_t betrag = roh_ < 0 ? -roh_ : roh_;
-    std::string bruch = std::to_string(betrag % skala);
+    // In unsigned arithmetic, so that the smallest value has a magnitude too.
+    const uint64_t betrag =
+        roh_ < 0 ? 0 - static_cast<uint64_t>(roh_) : static_cast<uint64_t>(roh_);
+    std::string bruch = std::to_string(betrag % static_cast<uint64_t>(skala));
     bruch.insert(0, 4 - bruch.size(), '0');
-    return (roh_ < 0 ? "-" : "") + std::to_string(betrag / skala) + "." + bruch;
+    return (roh_ < 0 ? "-" : "") + std::to_string(betrag / static_cast<uint64_t>(skala)) + "." +
+           bruch;
 }
 
 } // namespace lonvir

@@ -2,6 +2,7 @@
 #include "core/satzdatei.h"
 
 #include "core/laufzeitfehler.h"
+#include "core/schreibstoerung.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -17,15 +18,20 @@ Satzdatei::~Satzdatei() {
 }
 
 Satzdatei::Satzdatei(Satzdatei&& andere) noexcept
-    : fd_(andere.fd_), satzlaenge_(andere.satzlaenge_), pfad_(std::move(andere.pfad_)) {
+    : fd_(andere.fd_), nurLesen_(andere.nurLesen_), vorgang_(andere.vorgang_),
+      satzlaenge_(andere.satzlaenge_), pfad_(std::move(andere.pfad_)) {
     andere.fd_ = -1;
+    andere.nurLesen_ = false;
 }
 
 Satzdatei& Satzdatei::operator=(Satzdatei&& andere) noexcept {
     if (this != &andere) {
         schliessen();
         fd_ = andere.fd_;
+        nurLesen_ = andere.nurLesen_;
+        vorgang_ = andere.vorgang_;
         satzlaenge_ = andere.satzlaenge_;
+        andere.nurLesen_ = false;
         pfad_ = std::move(andere.pfad_);
         andere.fd_ = -1;
     }
@@ -42,34 +48,61 @@ void Satzdatei::oeffnen(const std::filesystem::path& pfad, int satzlaenge) {
     pfad_ = pfad;
 }
 
+void Satzdatei::lesendoeffnen(const std::filesystem::path& pfad, int satzlaenge) {
+    schliessen();
+    fd_ = ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd_ < 0 && errno != ENOENT)
+        throw Dateifehler(pfad.string(),
+                          std::string("kann nicht geöffnet werden (") + std::strerror(errno) + ")");
+    nurLesen_ = true;
+    satzlaenge_ = satzlaenge;
+    pfad_ = pfad;
+}
+
 void Satzdatei::schliessen() {
     if (fd_ >= 0)
         ::close(fd_);
     fd_ = -1;
+    nurLesen_ = false;
 }
 
 std::int64_t Satzdatei::laenge() const {
     struct stat st {};
-    if (fd_ < 0 || ::fstat(fd_, &st) != 0)
-        return 0;
-    return st.st_size;
+    const std::int64_t aufPlatte = fd_ < 0 || ::fstat(fd_, &st) != 0 ? 0 : st.st_size;
+    return imVorgang() ? vorgang_->laenge(pfad_, aufPlatte) : aufPlatte;
 }
 
 std::int64_t Satzdatei::versatz(std::int32_t nummer, std::size_t groesse) const {
     if (nummer < 1)
         throw Laufzeitfehler::satznummerfehler();
-    if (fd_ < 0)
+    if (!offen())
         throw Dateifehler(pfad_.string(), "ist nicht geöffnet");
     if (groesse != static_cast<std::size_t>(satzlaenge_))
         throw Dateifehler(pfad_.string(), "falsche Satzlänge");
     return static_cast<std::int64_t>(nummer - 1) * satzlaenge_;
 }
 
+// A record that extends the file first takes its blocks, so that a full disk refuses the write
+// whole instead of leaving a torn record at the end.
+void Satzdatei::platzfuer(std::int64_t ende, std::int32_t nummer) const {
+    struct stat st {};
+    if (::fstat(fd_, &st) != 0 || st.st_size >= ende)
+        return;
+    if (::fallocate(fd_, FALLOC_FL_KEEP_SIZE, st.st_size, ende - st.st_size) == 0)
+        return;
+    const int fehler = errno;
+    if (fehler == EOPNOTSUPP || fehler == ENOSYS)
+        return;
+    throw Dateifehler(pfad_.string(), "Satz " + std::to_string(nummer) +
+                                          " kann nicht geschrieben werden (" +
+                                          std::strerror(fehler) + ")");
+}
+
 void Satzdatei::lesen(std::int32_t nummer, std::span<std::uint8_t> satz) const {
     const std::int64_t ab = versatz(nummer, satz.size());
     std::fill(satz.begin(), satz.end(), std::uint8_t{0});
     std::size_t gelesen = 0;
-    while (gelesen < satz.size()) {
+    while (fd_ >= 0 && gelesen < satz.size()) {
         ssize_t n = ::pread(fd_, satz.data() + gelesen, satz.size() - gelesen,
                             static_cast<off_t>(ab + static_cast<std::int64_t>(gelesen)));
         if (n < 0 && errno == EINTR)
@@ -81,10 +114,23 @@ void Satzdatei::lesen(std::int32_t nummer, std::span<std::uint8_t> satz) const {
             break;
         gelesen += static_cast<std::size_t>(n);
     }
+    if (imVorgang())
+        vorgang_->ueberlagern(pfad_, ab, satz);
 }
 
 void Satzdatei::schreiben(std::int32_t nummer, std::span<const std::uint8_t> satz) {
     const std::int64_t ab = versatz(nummer, satz.size());
+    if (imVorgang()) {
+        vorgang_->schreiben(pfad_, ab, satz);
+        return;
+    }
+    if (nurLesen_)
+        throw Dateifehler(pfad_.string(), "ist nur zum Lesen geöffnet");
+    if (schreibstoerung::trifft())
+        throw Dateifehler(pfad_.string(), "Satz " + std::to_string(nummer) +
+                                              " kann nicht geschrieben werden (" +
+                                              std::strerror(ENOSPC) + ")");
+    platzfuer(ab + static_cast<std::int64_t>(satz.size()), nummer);
     ssize_t n;
     do {
         n = ::pwrite(fd_, satz.data(), satz.size(), static_cast<off_t>(ab));

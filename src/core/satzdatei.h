@@ -1,6 +1,8 @@
 // A random-access file of fixed-length records, opened for read and write.
 #pragma once
 
+#include "core/schreibvorgang.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <span>
@@ -19,9 +21,15 @@ public:
 
     // Opens the file, creating it with length 0 when absent.
     void oeffnen(const std::filesystem::path& pfad, int satzlaenge);
+    // Opens the file for reading only; an absent file is not created and reads as empty.
+    void lesendoeffnen(const std::filesystem::path& pfad, int satzlaenge);
+    // While `v` is active, writes go into it instead of the file, and reads and the length
+    // see them; the binding survives closing and opening.
+    void binden(Schreibvorgang* v) { vorgang_ = v; }
     void schliessen();
 
-    [[nodiscard]] bool offen() const { return fd_ >= 0; }
+    [[nodiscard]] bool offen() const { return fd_ >= 0 || nurLesen_; }
+    [[nodiscard]] bool nurLesen() const { return nurLesen_; }
     [[nodiscard]] int satzlaenge() const { return satzlaenge_; }
     [[nodiscard]] const std::filesystem::path& pfad() const { return pfad_; }
     [[nodiscard]] std::int64_t laenge() const;
@@ -33,7 +41,11 @@ public:
 
 private:
     std::int64_t versatz(std::int32_t nummer, std::size_t groesse) const;
+    void platzfuer(std::int64_t ende, std::int32_t nummer) const;
+    [[nodiscard]] bool imVorgang() const { return vorgang_ != nullptr && vorgang_->aktiv(); }
     int fd_ = -1;
+    bool nurLesen_ = false;
+    Schreibvorgang* vorgang_ = nullptr;
     int satzlaenge_ = 0;
     std::filesystem::path pfad_;
 };

@@ -1,5 +1,6 @@
 // The calculation driver: a fixed order of steps from the tariff to the payment.
 #include "engine/berechnen.h"
+#include "start/vorgang.h"
 
 #include "core/laufzeitfehler.h"
 #include "core/pfennig.h"
@@ -246,17 +247,21 @@ void berechnen(Sitzung& s) {
 void nachrechnen(Sitzung& s) {
     if (s.Neuberechnung != -1)
         return;
-    berechnen(s);
-    if (s.anzeige) {
-        for (int zeile = 0; zeile <= 45; ++zeile)
-            if (zeile != 32)
-                s.anzeige->zeilemalen(zeile);
-    }
-    s.Neuberechnung = 0;
-    if (s.folgesperre == 0 && s.merkmal[20] < 11 && s.bruttomodus == 0) {
-        s.aenderungscode = 4;
-        folgemonate(s);
-    }
+    // The month and every later month are computed in memory first and then stored together:
+    // an interrupted or failed input leaves the year as it was.
+    alsVorgang(s, [&s] {
+        berechnen(s);
+        if (s.anzeige) {
+            for (int zeile = 0; zeile <= 45; ++zeile)
+                if (zeile != 32)
+                    s.anzeige->zeilemalen(zeile);
+        }
+        s.Neuberechnung = 0;
+        if (s.folgesperre == 0 && s.merkmal[20] < 11 && s.bruttomodus == 0) {
+            s.aenderungscode = 4;
+            folgemonate(s);
+        }
+    });
 }
 
 void folgemonate(Sitzung& s) {

@@ -10,6 +10,7 @@
 #include "gui/tablettanbindung.h"
 #include "gui/uebersichtanbindung.h"
 #include "gui/vorschau.h"
+#include "start/bestandspruefung.h"
 #include "start/start.h"
 
 #include <QApplication>
@@ -188,7 +189,7 @@ int main(int argc, char** argv) {
     }
     try {
         s.ordner.anlegen();
-        const lonvir::Startergebnis ergebnis = lonvir::starten(s);
+        const lonvir::Startergebnis ergebnis = lonvir::startenOderNurLesen(s);
         if (ergebnis == lonvir::Startergebnis::angehalten)
             return app.exec(); // the start form stays up; no main form follows
         if (ergebnis == lonvir::Startergebnis::passwort) {
@@ -211,6 +212,10 @@ int main(int argc, char** argv) {
         if (!aufruf.bildschirmfoto.isEmpty())
             fotografieren(fenster, tablett, hilfe, aufruf);
         return app.exec();
+    } catch (const lonvir::Bestandsschaden& schaden) {
+        // Reported and declined: the program ends without writing anything.
+        std::cerr << schaden.what() << "\n";
+        return 4;
     } catch (const std::exception& fehler) {
         dialoge.elternSetzen(nullptr); // the window of the try block is gone
         lonvir::programmende(&dialoge, fehler);

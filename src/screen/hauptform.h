@@ -10,7 +10,7 @@
 namespace lonvir {
 
 // The caption of the main window: "LONVIR 1997 im öffentlichen Dienst    (ohne Gewähr)", with
-// the year of the open set.
+// the year of the open set; a folder opened for reading only adds that nothing is stored.
 [[nodiscard]] std::string fenstertitel(const Sitzung& s);
 
 class Hauptform {

@@ -8,8 +8,10 @@
 namespace lonvir {
 
 std::string fenstertitel(const Sitzung& s) {
+    // A damaged store opened for reading only says so in the caption: nothing is stored.
     return std::string("LONVIR ") + (s.ist1997() ? "1997" : std::to_string(s.jahr)) +
-           " im öffentlichen Dienst    (ohne Gewähr)";
+           " im öffentlichen Dienst    (ohne Gewähr)" +
+           (s.nurLesen ? "    - NUR LESEN: Eingaben werden nicht gespeichert" : "");
 }
 
 void Kernform::bildauffrischen() {

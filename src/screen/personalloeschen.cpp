@@ -5,6 +5,7 @@
 #include "start/dateisatz.h"
 #include "start/personenanlegen.h"
 #include "start/texte.h"
+#include "start/vorgang.h"
 
 namespace lonvir {
 
@@ -44,7 +45,7 @@ void dateienloeschen(Sitzung& s) {
         s.datei(nummer).schliessen();
         if (nummer == 7)
             s.datei(datei::juli1997).schliessen();
-        s.ordner.loeschen(dateiname(nummer, s.jahr, s.schicht));
+        dateiloeschen(s, dateiname(nummer, s.jahr, s.schicht));
     }
 }
 
@@ -66,21 +67,25 @@ bool personalloeschen(Sitzung& s, Hauptform& form) {
     s.Tablettseite = 22;
     if (!nachfragen(s))
         return false;
-    // 2.
-    for (int i = 0; i <= 45; ++i)
-        s.merkmal[i] = 0;
-    s.anzahlnamen = 0;
-    // 3. to 5.
-    texteruecksetzen(s);
-    // 6.
-    dateienloeschen(s);
-    // 7.
-    s.jahr = 1997;
-    s.startphase = 0;
-    dateienoeffnen(s);
-    form.entladen();
-    datensaetzeanlegen(s);
-    form.laden();
+    // The names, the deleted files and the new persons are stored together: an interruption
+    // leaves the layer as it was before the question.
+    alsVorgang(s, [&] {
+        // 2.
+        for (int i = 0; i <= 45; ++i)
+            s.merkmal[i] = 0;
+        s.anzahlnamen = 0;
+        // 3. to 5.
+        texteruecksetzen(s);
+        // 6.
+        dateienloeschen(s);
+        // 7.
+        s.jahr = 1997;
+        s.startphase = 0;
+        dateienoeffnen(s);
+        form.entladen();
+        datensaetzeanlegen(s);
+        form.laden();
+    });
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "start/einstellungen.h"
 #include "start/jahressaetze.h"
 #include "start/satzzugriff.h"
+#include "start/vorgang.h"
 
 namespace lonvir {
 
@@ -28,14 +29,7 @@ void uebernehmen(const Sitzung& s, Personalsatz& p) {
         p.wei[i] = s.wei[i];
 }
 
-} // namespace
-
-void SSPanel1_Click(Sitzung& s) {
-    if (s.Tablettseite == 61)
-        stempeln(s);
-}
-
-void stempeln(Sitzung& s) {
+void stempelschreiben(Sitzung& s) {
     const int ab = s.dim.anzahlpersonen + 1;
     for (int monat = 1; monat <= 12; ++monat) {
         // The buffer holds the current person's month, so that its month field stays right.
@@ -50,6 +44,18 @@ void stempeln(Sitzung& s) {
         jahressatzschreiben(s, person, karte);
     s.dim.anzahlpersonen = s.anzahlnamen;
     dimschreiben(s);
+}
+
+} // namespace
+
+void SSPanel1_Click(Sitzung& s) {
+    if (s.Tablettseite == 61)
+        stempeln(s);
+}
+
+void stempeln(Sitzung& s) {
+    // All persons stamped, or none.
+    alsVorgang(s, [&s] { stempelschreiben(s); });
 }
 
 } // namespace lonvir

@@ -3,6 +3,7 @@
 #include "screen/uebertragung.h"
 
 #include "start/dateisatz.h"
+#include "start/vorgang.h"
 
 #include <vector>
 
@@ -26,11 +27,18 @@ void satzkopieren(Sitzung& s, int nummer, std::int16_t von, std::int16_t nach) {
 void uebertragen(Sitzung& s, std::int16_t von, std::int16_t nach) {
     // 1.
     const std::int16_t schicht = s.schicht;
-    // 2.
-    for (int monat = 1; monat <= 12; ++monat)
-        satzkopieren(s, monat, von, nach);
-    // 3.
-    satzkopieren(s, datei::jahressaetze, von, nach);
+    // 2. and 3. The person arrives whole in the target, or not at all.
+    try {
+        alsVorgang(s, [&] {
+            for (int monat = 1; monat <= 12; ++monat)
+                satzkopieren(s, monat, von, nach);
+            satzkopieren(s, datei::jahressaetze, von, nach);
+        });
+    } catch (...) {
+        s.schicht = schicht;
+        dateienoeffnen(s);
+        throw;
+    }
     // 4.
     s.schicht = schicht;
     dateienoeffnen(s);

@@ -61,6 +61,14 @@ std::string dateiname(int nummer, int jahr, int schicht) {
     return {};
 }
 
+void dateiloeschen(Sitzung& s, const std::string& name) {
+    if (s.vorgang.aktiv()) {
+        s.vorgang.loeschen(s.ordner.pfad(name));
+        return;
+    }
+    s.ordner.loeschen(name);
+}
+
 void dateienschliessen(Sitzung& s) {
     for (Satzdatei& d : s.dateien)
         d.schliessen();
@@ -68,14 +76,18 @@ void dateienschliessen(Sitzung& s) {
 
 namespace {
 void oeffnen(Sitzung& s, int nummer, int jahr) {
-    s.datei(nummer).oeffnen(s.ordner.pfad(dateiname(nummer, jahr, s.schicht)),
-                            satzlaengeVon(nummer));
+    const auto pfad = s.ordner.pfad(dateiname(nummer, jahr, s.schicht));
+    if (s.nurLesen)
+        s.datei(nummer).lesendoeffnen(pfad, satzlaengeVon(nummer));
+    else
+        s.datei(nummer).oeffnen(pfad, satzlaengeVon(nummer));
 }
 } // namespace
 
 void dateienoeffnen(Sitzung& s) {
     dateienschliessen(s);
-    s.ordner.anlegen();
+    if (!s.nurLesen)
+        s.ordner.anlegen();
     const bool schichtGueltig = s.schicht >= INFO && s.schicht <= REAL;
     const bool jahrGueltig = s.jahr == 0 || s.jahr == 1997 || s.jahr == 1998;
     if (schichtGueltig && jahrGueltig) {

@@ -14,6 +14,9 @@ namespace lonvir {
 
 // Closes every file and opens the whole set for the current layer and year.
 void dateienoeffnen(Sitzung& s);
+// Deletes a file of the folder (matched without regard to case); inside a transaction the
+// deletion waits for its store, and the file reads as empty until then.
+void dateiloeschen(Sitzung& s, const std::string& name);
 // Closes every file of the set.
 void dateienschliessen(Sitzung& s);
 // Another layer: reopen the set and read the settings again; the caller refreshes the screen.

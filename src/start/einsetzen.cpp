@@ -1,7 +1,7 @@
 // Seeding a working folder from the compiled installation data.
 #include "start/einsetzen.h"
 
-#include "core/laufzeitfehler.h"
+#include "core/ganzkopie.h"
 
 #include <string>
 #include <vector>
@@ -26,23 +26,11 @@ bool ohnebestand(const Arbeitsordner& ordner) {
 }
 
 bool einsetzen(const fs::path& installation, const Arbeitsordner& ordner) {
-    if (!fs::is_directory(installation))
+    if (!fs::is_directory(installation) || fs::is_empty(installation))
         return false;
-    ordner.anlegen();
-    bool kopiert = false;
-    for (const fs::directory_entry& e : fs::recursive_directory_iterator(installation)) {
-        const fs::path ziel = ordner.ordner() / fs::relative(e.path(), installation);
-        std::error_code fehler;
-        if (e.is_directory()) {
-            fs::create_directories(ziel, fehler);
-        } else if (e.is_regular_file()) {
-            fs::copy_file(e.path(), ziel, fs::copy_options::overwrite_existing, fehler);
-            kopiert = true;
-        }
-        if (fehler)
-            throw Dateifehler(ziel.string(), "Installationsdatei kann nicht angelegt werden");
-    }
-    return kopiert;
+    // All files arrive, or none: a full disk leaves the folder without a store.
+    ganzkopie::einsetzen(installation, ordner.ordner());
+    return true;
 }
 
 } // namespace lonvir::installation

@@ -14,8 +14,8 @@ namespace lonvir::installation {
 [[nodiscard]] bool ohnebestand(const Arbeitsordner& ordner);
 
 // Copies every file of the compiled installation into the working folder, keeping the
-// subfolders. An installation folder that does not exist seeds nothing; returns whether
-// anything was copied.
+// subfolders, all or nothing (built under a temporary name, then moved into place). An
+// installation folder that does not exist seeds nothing; returns whether anything was copied.
 bool einsetzen(const std::filesystem::path& installation, const Arbeitsordner& ordner);
 
 } // namespace lonvir::installation

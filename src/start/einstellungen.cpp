@@ -2,6 +2,7 @@
 #include "start/einstellungen.h"
 
 #include "core/pfennig.h"
+#include "start/bestandspruefung.h"
 #include "start/kvsaetze.h"
 
 #include <array>
@@ -50,6 +51,20 @@ std::int32_t ganzzahl(const Sitzung& s, int i) {
     return s.voreinstellung[i].gerundetInt32();
 }
 
+// A settings record that fails its checks is reported once; its defaults serve this run and
+// the record is not written, so that nothing of it is lost.
+void einstellungsschaden(Sitzung& s, bool& gesperrt, const std::string& datei, int satz,
+                         const std::string& grund) {
+    if (!gesperrt && s.dialoge)
+        s.dialoge->zeigen({"Einstellungen beschädigt",
+                           "Satz " + std::to_string(satz) + " der Datei " + datei +
+                               " ist beschädigt: " + grund +
+                               ". Für diesen Lauf gelten die Vorgaben; die Datei wird nicht "
+                               "überschrieben.",
+                           Symbol::ausruf, Knoepfe::ok});
+    gesperrt = true;
+}
+
 } // namespace
 
 Dimsatz dimvorgaben(const Sitzung& s) {
@@ -86,10 +101,18 @@ void dimlesen(Sitzung& s) {
     }
     std::array<std::uint8_t, Dimsatz::laenge> b{};
     f.lesen(1, b);
-    s.dim = Dimsatz::lesen(b);
+    const Dimsatz gelesen = Dimsatz::lesen(b);
+    if (const auto grund = dimpruefen(gelesen)) {
+        einstellungsschaden(s, s.dimGesperrt, "Lonvir97.dim", 1, *grund);
+        s.dim = dimvorgaben(s);
+        return;
+    }
+    s.dim = gelesen;
 }
 
 void dimschreiben(Sitzung& s) {
+    if (s.dimGesperrt)
+        return; // a damaged record is reported, not overwritten with the defaults
     std::array<std::uint8_t, Dimsatz::laenge> b{};
     s.dim.schreiben(b);
     s.datei(datei::dim).schreiben(1, b);
@@ -106,6 +129,10 @@ void voelesen(Sitzung& s) {
         std::array<std::uint8_t, Voeinsatz::laenge> b{};
         f.lesen(voesatznummer(s), b);
         v = Voeinsatz::lesen(b);
+        if (const auto grund = voepruefen(v)) {
+            einstellungsschaden(s, s.voeGesperrt, "Lonvir97.voe", voesatznummer(s), *grund);
+            v = Voeinsatz{};
+        }
     }
     s.voreinstellung = v.voreinstellung;
     s.vorgabewert = v.vorgabewert;
@@ -119,6 +146,8 @@ void voelesen(Sitzung& s) {
 }
 
 void voeschreiben(Sitzung& s) {
+    if (s.voeGesperrt)
+        return; // a damaged record is reported, not overwritten with the defaults
     Voeinsatz v;
     v.dienststelle1 = s.dienststelle1;
     v.dienststelle2 = s.dienststelle2;

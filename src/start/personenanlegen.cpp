@@ -6,6 +6,7 @@
 #include "start/einstellungen.h"
 #include "start/satzzugriff.h"
 #include "start/texte.h"
+#include "start/vorgang.h"
 
 #include <cmath>
 #include <vector>
@@ -49,11 +50,14 @@ void personenanlegen(Sitzung& s) {
     if (s.anzahlnamen <= gespeichert)
         return;
     Personalsatz satz = Personalsatz::neu(0);
-    for (std::int16_t schicht : {INFO, PLAN, REAL}) {
-        s.schicht = schicht;
-        dateienoeffnen(s);
-        schichtfuellen(s, gespeichert, satz);
-    }
+    // The new persons stand in all three layers, or in none.
+    alsVorgang(s, [&] {
+        for (std::int16_t schicht : {INFO, PLAN, REAL}) {
+            s.schicht = schicht;
+            dateienoeffnen(s);
+            schichtfuellen(s, gespeichert, satz);
+        }
+    });
 }
 
 } // namespace lonvir

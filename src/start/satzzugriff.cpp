@@ -2,6 +2,7 @@
 #include "start/satzzugriff.h"
 
 #include "start/einstellungen.h"
+#include "start/vorgang.h"
 
 #include <array>
 
@@ -58,9 +59,12 @@ void satzschreiben(Sitzung& s) {
 }
 
 void satzschreiben(Sitzung& s, const Personalsatz& satz) {
-    monatsdateiSetzen(s);
-    personalsatzschreiben(s, s.aktuellerdatei, s.aktuelleperson, satz);
-    voeschreiben(s);
+    // The month and the settings that name it are stored together.
+    alsVorgang(s, [&s, &satz] {
+        monatsdateiSetzen(s);
+        personalsatzschreiben(s, s.aktuellerdatei, s.aktuelleperson, satz);
+        voeschreiben(s);
+    });
 }
 
 void eingabewerte(Sitzung& s) {

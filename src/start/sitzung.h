@@ -76,7 +76,11 @@ struct Stufenliste {
 };
 
 struct Sitzung {
-    Sitzung() = default;
+    // Every file of the set writes through the session's transaction while one is open.
+    Sitzung() {
+        for (Satzdatei& d : dateien)
+            d.binden(&vorgang);
+    }
     Sitzung(const Sitzung&) = delete;
     Sitzung& operator=(const Sitzung&) = delete;
 
@@ -87,6 +91,15 @@ struct Sitzung {
     std::array<Satzdatei, 24> dateien; // index = file number 1..23; 0 unused
     Dialoge* dialoge = nullptr;
     Anzeige* anzeige = nullptr; // the screen that shows the rows; none in the CLI
+    // The writes of the confirmed input under way, stored together at its end (Vorgang).
+    Schreibvorgang vorgang;
+    // The folder is opened for reading only: the files are not created, and what the session
+    // computes stays in memory; nothing is ever written.
+    bool nurLesen = false;
+    // A settings record that failed its checks: its defaults serve this run, and the damaged
+    // record is not overwritten.
+    bool dimGesperrt = false;
+    bool voeGesperrt = false;
 
     // --- place
     std::int16_t jahr = 1997;

@@ -13,7 +13,13 @@ enum class Startergebnis { hauptform, passwort, angehalten };
 // Opens the set of s.jahr / s.schicht in s.ordner, reads the settings of the year (which
 // restores the person: voreinstellung(15), 0 counting as person 1) and the display settings,
 // creates the persons of a new store and branches on the start lock. Loads no record.
+// A damaged store raises Bestandsschaden before anything is written.
 Startergebnis starten(Sitzung& s);
+
+// The start of the window: a damaged store is reported with the file and what is wrong, and
+// the user opens the folder for reading only (Yes) or ends the program (No: Bestandsschaden
+// goes on to the caller).
+Startergebnis startenOderNurLesen(Sitzung& s);
 
 // The rest of the place where the user stopped, as the main form restores it after the
 // start: the person from voreinstellung(15) cut to the name list (0 and anything outside

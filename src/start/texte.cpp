@@ -1,6 +1,10 @@
 // Reading and writing the text table, and counting names and cost centres.
 #include "start/texte.h"
 
+#include "start/bestandspruefung.h"
+
+#include <algorithm>
+
 #include "core/cp1252.h"
 #include "core/zeichen.h"
 #include "records/bytes.h"
@@ -31,7 +35,13 @@ std::string textgetrimmt(Sitzung& s, int nummer) {
 }
 
 void textschreiben(Sitzung& s, int nummer, const std::string& text) {
-    Textsatz t{bytes::fest(utf8NachCp1252(text), Textsatz::laenge)};
+    std::string roh = utf8NachCp1252(text);
+    // A control character in a name marks a damaged text table: a typed one becomes a blank.
+    if (nummer >= textnummer::ersterName && nummer <= textnummer::letzterName)
+        std::replace_if(
+            roh.begin(), roh.end(),
+            [](char c) { return steuerzeichen(static_cast<unsigned char>(c)); }, ' ');
+    Textsatz t{bytes::fest(roh, Textsatz::laenge)};
     std::array<std::uint8_t, Textsatz::laenge> b{};
     t.schreiben(b);
     s.datei(datei::texte).schreiben(nummer, b);

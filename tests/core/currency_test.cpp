@@ -3,6 +3,7 @@
 #include "core/laufzeitfehler.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace lonvir {
 
@@ -49,6 +50,14 @@ TEST(Currency, UeberlaufIstLaufzeitfehler6) {
 TEST(Currency, TextMitVierNachkommastellen) {
     EXPECT_EQ(Currency::roh(-12345).text(), "-1.2345");
     EXPECT_EQ(Currency::ganz(38).text(), "38.0000");
+}
+
+TEST(Currency, TextDesKleinstenWertesOhneUeberlauf) {
+    // -9 223 372 036 854 775 808 ten-thousandths: its magnitude has no signed 64-bit value.
+    EXPECT_EQ(Currency::roh(std::numeric_limits<std::int64_t>::min()).text(),
+              "-922337203685477.5808");
+    EXPECT_EQ(Currency::roh(std::numeric_limits<std::int64_t>::max()).text(),
+              "922337203685477.5807");
 }
 
 } // namespace lonvir

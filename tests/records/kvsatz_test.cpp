@@ -1,9 +1,12 @@
 // A month of health-insurance rates: 28 signed 16-bit rates at 2k, the rest kept as read.
 #include "records/kvsatz.h"
 
+#include "core/laufzeitfehler.h"
+
 #include "records/satzbild.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace lonvir {
 
@@ -28,6 +31,13 @@ TEST(Kvsatz, JedesByteUeberstehtLesenUndSchreiben) {
     std::vector<std::uint8_t> b(Kvsatz::laenge, 0);
     Kvsatz::lesen(muster.bytes()).schreiben(b);
     EXPECT_EQ(b, muster.bytes());
+}
+
+TEST(Kvsatz, EinZuKurzerBereichIstEinIndexfehlerWieBeiJedemSatz) {
+    const std::vector<std::uint8_t> kurz(Kvsatz::laenge - 1, 0);
+    EXPECT_THROW((void)Kvsatz::lesen(kurz), Laufzeitfehler);
+    std::vector<std::uint8_t> ziel(Kvsatz::laenge - 1, 0);
+    EXPECT_THROW(Kvsatz{}.schreiben(ziel), Laufzeitfehler);
 }
 
 } // namespace lonvir

@@ -1,0 +1,290 @@
+// The journal file: magic, the changes, a checksum and an end mark; written, flushed, applied.
+#include "core/journal.h"
+
+#include "core/laufzeitfehler.h"
+#include "core/schreibstoerung.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <map>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace lonvir::journal {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::uint8_t kopf[4] = {'L', 'V', 'J', '1'};
+constexpr std::uint8_t schluss[4] = {'E', 'N', 'D', 'E'};
+constexpr std::uint32_t hoechstensSchritte = 10'000'000;
+constexpr std::uint32_t hoechstensSatz = 1 << 20;
+constexpr std::int64_t hoechstensVersatz = std::int64_t{1} << 40;
+
+const char* const nichtsGespeichert = "Es wurde nichts gespeichert.";
+
+std::uint64_t pruefsumme(std::span<const std::uint8_t> b) {
+    std::uint64_t h = 1469598103934665603ULL; // FNV-1a
+    for (std::uint8_t c : b) {
+        h ^= c;
+        h *= 1099511628211ULL;
+    }
+    return h;
+}
+
+template <typename T> void anhaengen(std::vector<std::uint8_t>& aus, T wert) {
+    for (std::size_t i = 0; i < sizeof(T); ++i)
+        aus.push_back(static_cast<std::uint8_t>(static_cast<std::uint64_t>(wert) >> (8 * i)));
+}
+
+class Leser {
+public:
+    explicit Leser(std::span<const std::uint8_t> b) : b_(b) {}
+    template <typename T> bool zahl(T& wert) {
+        if (b_.size() - pos_ < sizeof(T))
+            return false;
+        std::uint64_t w = 0;
+        for (std::size_t i = 0; i < sizeof(T); ++i)
+            w |= static_cast<std::uint64_t>(b_[pos_ + i]) << (8 * i);
+        wert = static_cast<T>(w);
+        pos_ += sizeof(T);
+        return true;
+    }
+    bool bytes(std::size_t n, std::span<const std::uint8_t>& aus) {
+        if (b_.size() - pos_ < n)
+            return false;
+        aus = b_.subspan(pos_, n);
+        pos_ += n;
+        return true;
+    }
+    [[nodiscard]] std::size_t stelle() const { return pos_; }
+
+private:
+    std::span<const std::uint8_t> b_;
+    std::size_t pos_ = 0;
+};
+
+bool gueltigerName(const std::string& name) {
+    return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos &&
+           name.find('\0') == std::string::npos;
+}
+
+// A write of the whole buffer, as the file layer does it; the injected failure counts here too.
+bool allesschreiben(int fd, std::span<const std::uint8_t> b, std::int64_t ab) {
+    if (schreibstoerung::trifft()) {
+        errno = ENOSPC;
+        return false;
+    }
+    std::size_t geschrieben = 0;
+    while (geschrieben < b.size()) {
+        const ssize_t n = ::pwrite(fd, b.data() + geschrieben, b.size() - geschrieben,
+                                   static_cast<off_t>(ab + static_cast<std::int64_t>(geschrieben)));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        geschrieben += static_cast<std::size_t>(n);
+    }
+    return true;
+}
+
+// The blocks a file grows by, taken before the journal is written, so that a full disk stops
+// the store before anything has changed and not in the middle of applying it.
+void platzreservieren(const fs::path& ordner,
+                      const std::vector<Schreibvorgang::Schritt>& schritte) {
+    std::map<std::string, std::int64_t> ende;
+    for (const auto& s : schritte)
+        if (s.art == Schreibvorgang::Schritt::Art::schreiben) {
+            std::int64_t& e = ende[s.pfad.filename().string()];
+            e = std::max(e, s.versatz + static_cast<std::int64_t>(s.bytes.size()));
+        }
+    for (const auto& [name, e] : ende) {
+        const fs::path pfad = ordner / name;
+        const int fd = ::open(pfad.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+        if (fd < 0)
+            throw Dateifehler(pfad.string(), std::string("kann nicht geöffnet werden (") +
+                                                 std::strerror(errno) + "). " + nichtsGespeichert);
+        struct stat st {};
+        const bool waechst = ::fstat(fd, &st) == 0 && st.st_size < e;
+        int fehler = 0;
+        if (waechst) {
+            fehler =
+                ::fallocate(fd, FALLOC_FL_KEEP_SIZE, st.st_size, e - st.st_size) == 0 ? 0 : errno;
+            if (fehler == EOPNOTSUPP || fehler == ENOSYS)
+                fehler = 0; // a file system without reservation: the write itself will tell
+        }
+        ::close(fd);
+        if (fehler != 0)
+            throw Dateifehler(pfad.string(), std::string("kein Platz für die Eingabe (") +
+                                                 std::strerror(fehler) + "). " + nichtsGespeichert);
+    }
+}
+
+void journalschreiben(const fs::path& pfad, std::span<const std::uint8_t> bytes) {
+    const int fd = ::open(pfad.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    bool gut = fd >= 0 && allesschreiben(fd, bytes, 0);
+    const int fehler = errno;
+    if (gut)
+        gut = ::fdatasync(fd) == 0;
+    if (fd >= 0)
+        ::close(fd);
+    if (!gut) {
+        ::unlink(pfad.c_str());
+        throw Dateifehler(pfad.string(), std::string("Journal kann nicht geschrieben werden (") +
+                                             std::strerror(fehler) + "). " + nichtsGespeichert);
+    }
+}
+
+void anwenden(const fs::path& ordner, const std::vector<Schreibvorgang::Schritt>& schritte) {
+    std::map<std::string, int> offen;
+    auto schliessen = [&offen] {
+        for (const auto& [name, fd] : offen)
+            ::close(fd);
+        offen.clear();
+    };
+    try {
+        for (const auto& s : schritte) {
+            const std::string name = s.pfad.filename().string();
+            const fs::path pfad = ordner / name;
+            if (s.art == Schreibvorgang::Schritt::Art::loeschen) {
+                if (auto it = offen.find(name); it != offen.end()) {
+                    ::close(it->second);
+                    offen.erase(it);
+                }
+                if (::unlink(pfad.c_str()) != 0 && errno != ENOENT)
+                    throw Dateifehler(pfad.string(), "kann nicht gelöscht werden");
+                continue;
+            }
+            auto it = offen.find(name);
+            if (it == offen.end()) {
+                const int fd = ::open(pfad.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+                if (fd < 0)
+                    throw Dateifehler(pfad.string(), "kann nicht geöffnet werden");
+                it = offen.emplace(name, fd).first;
+            }
+            if (!allesschreiben(it->second, s.bytes, s.versatz))
+                throw Dateifehler(pfad.string(),
+                                  std::string("kann nicht geschrieben werden (") +
+                                      std::strerror(errno) +
+                                      "). Die Eingabe steht vollständig im Journal " + dateiname +
+                                      " und wird beim nächsten Start zu Ende gespeichert.");
+        }
+    } catch (...) {
+        schliessen();
+        throw;
+    }
+    schliessen();
+}
+
+std::optional<std::vector<std::uint8_t>> dateilesen(const fs::path& pfad) {
+    const int fd = ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return std::nullopt;
+    std::vector<std::uint8_t> b;
+    std::uint8_t puffer[65536];
+    for (;;) {
+        const ssize_t n = ::read(fd, puffer, sizeof puffer);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            break;
+        b.insert(b.end(), puffer, puffer + n);
+    }
+    ::close(fd);
+    return b;
+}
+
+} // namespace
+
+std::vector<std::uint8_t> kodieren(const std::vector<Schreibvorgang::Schritt>& schritte) {
+    std::vector<std::uint8_t> b(std::begin(kopf), std::end(kopf));
+    anhaengen(b, static_cast<std::uint32_t>(schritte.size()));
+    for (const auto& s : schritte) {
+        const std::string name = s.pfad.filename().string();
+        anhaengen(b, static_cast<std::uint8_t>(s.art));
+        anhaengen(b, static_cast<std::uint16_t>(name.size()));
+        b.insert(b.end(), name.begin(), name.end());
+        anhaengen(b, s.versatz);
+        anhaengen(b, static_cast<std::uint32_t>(s.bytes.size()));
+        b.insert(b.end(), s.bytes.begin(), s.bytes.end());
+    }
+    anhaengen(b, pruefsumme(b));
+    b.insert(b.end(), std::begin(schluss), std::end(schluss));
+    return b;
+}
+
+std::optional<std::vector<Schreibvorgang::Schritt>> dekodieren(std::span<const std::uint8_t> b) {
+    Leser l(b);
+    std::span<const std::uint8_t> marke;
+    std::uint32_t anzahl = 0;
+    if (!l.bytes(4, marke) || !std::equal(marke.begin(), marke.end(), kopf) || !l.zahl(anzahl) ||
+        anzahl > hoechstensSchritte)
+        return std::nullopt;
+    std::vector<Schreibvorgang::Schritt> schritte;
+    for (std::uint32_t i = 0; i < anzahl; ++i) {
+        std::uint8_t art = 0;
+        std::uint16_t namenlaenge = 0;
+        std::span<const std::uint8_t> name, bytes;
+        std::int64_t versatz = 0;
+        std::uint32_t laenge = 0;
+        if (!l.zahl(art) || !l.zahl(namenlaenge) || !l.bytes(namenlaenge, name) ||
+            !l.zahl(versatz) || !l.zahl(laenge) || laenge > hoechstensSatz ||
+            !l.bytes(laenge, bytes))
+            return std::nullopt;
+        const std::string n(name.begin(), name.end());
+        const bool schreibt =
+            art == static_cast<std::uint8_t>(Schreibvorgang::Schritt::Art::schreiben);
+        const bool loescht =
+            art == static_cast<std::uint8_t>(Schreibvorgang::Schritt::Art::loeschen);
+        if ((!schreibt && !loescht) || !gueltigerName(n) || versatz < 0 ||
+            versatz > hoechstensVersatz)
+            return std::nullopt;
+        schritte.push_back({static_cast<Schreibvorgang::Schritt::Art>(art), n, versatz,
+                            std::vector<std::uint8_t>(bytes.begin(), bytes.end())});
+    }
+    const std::size_t inhalt = l.stelle();
+    std::uint64_t summe = 0;
+    if (!l.zahl(summe) || summe != pruefsumme(b.first(inhalt)) || !l.bytes(4, marke) ||
+        !std::equal(marke.begin(), marke.end(), schluss) || l.stelle() != b.size())
+        return std::nullopt;
+    return schritte;
+}
+
+void festschreiben(const fs::path& ordner, const Schreibvorgang& v) {
+    if (v.leer())
+        return;
+    const std::vector<Schreibvorgang::Schritt> schritte = v.schritte();
+    for (const auto& s : schritte)
+        if (s.pfad.parent_path().lexically_normal() != ordner.lexically_normal())
+            throw Dateifehler(s.pfad.string(), "liegt nicht im Arbeitsordner");
+    platzreservieren(ordner, schritte);
+    const fs::path pfad = ordner / dateiname;
+    journalschreiben(pfad, kodieren(schritte));
+    anwenden(ordner, schritte);
+    ::unlink(pfad.c_str());
+}
+
+std::optional<std::vector<Schreibvorgang::Schritt>> lesen(const fs::path& ordner) {
+    const auto b = dateilesen(ordner / dateiname);
+    if (!b)
+        return std::nullopt;
+    return dekodieren(*b);
+}
+
+Nachholen nachholen(const fs::path& ordner) {
+    const fs::path pfad = ordner / dateiname;
+    const auto b = dateilesen(pfad);
+    if (!b)
+        return Nachholen::keins;
+    const auto schritte = dekodieren(*b);
+    if (schritte)
+        anwenden(ordner, *schritte);
+    if (::unlink(pfad.c_str()) != 0)
+        throw Dateifehler(pfad.string(), "kann nicht gelöscht werden");
+    return schritte ? Nachholen::angewendet : Nachholen::verworfen;
+}
+
+} // namespace lonvir::journal

@@ -1,0 +1,42 @@
+// The write-ahead journal of the working folder: a transaction's writes go first into one
+// journal file, which is flushed; then they are applied to the record files and the journal is
+// removed. A complete journal found at the next start is applied again (applying twice gives
+// the same bytes); an incomplete one is discarded, and the files then hold the old state.
+#pragma once
+
+#include "core/schreibvorgang.h"
+
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+namespace lonvir::journal {
+
+// The journal's name in the working folder.
+inline constexpr const char* dateiname = "Lonvir97.jnl";
+
+// Stores every pending change of `v` in the folder `ordner`, all or nothing: reserves the
+// space the files grow by, writes and flushes the journal, applies it, removes it. Every file
+// of the transaction must lie directly in `ordner`.
+// Throws Dateifehler: before the journal is complete nothing has changed and the message says
+// "Es wurde nichts gespeichert."; a failure while applying leaves the complete journal, which
+// the next start applies.
+void festschreiben(const std::filesystem::path& ordner, const Schreibvorgang& v);
+
+enum class Nachholen { keins, angewendet, verworfen };
+// At start: applies a complete journal left by an interrupted store and discards an
+// incomplete one.
+Nachholen nachholen(const std::filesystem::path& ordner);
+
+// The changes of a complete journal in the folder without applying them (a folder opened for
+// reading only shows the state the journal leads to); none when there is no complete journal.
+[[nodiscard]] std::optional<std::vector<Schreibvorgang::Schritt>>
+lesen(const std::filesystem::path& ordner);
+
+// The journal as bytes and back; decoding gives nothing for anything but a complete journal.
+[[nodiscard]] std::vector<std::uint8_t>
+kodieren(const std::vector<Schreibvorgang::Schritt>& schritte);
+[[nodiscard]] std::optional<std::vector<Schreibvorgang::Schritt>>
+dekodieren(std::span<const std::uint8_t> bytes);
+
+} // namespace lonvir::journal
