@@ -42,6 +42,7 @@ Tabellenauswahl auswahlAus(const Optionen& o) {
     a.besonderetabelle = o.schalter("beamte") ? 1 : 0;
     a.altersentlastung = o.schalter("alter") ? 1 : 0;
     a.kirchensteuersatz = kirchensatzAus(o);
+    a.recht = rechtAus(o);
     return a;
 }
 
@@ -55,7 +56,9 @@ void alsJson(Kontext& k, const Lohnsteuertabelle& t, std::ostream& aus) {
         .roh("kinderfreibetraege", t.auswahl.kinderfreibetraege.text())
         .zahl("beamte", t.auswahl.besonderetabelle)
         .zahl("alter", t.auswahl.altersentlastung)
-        .roh("kirchensteuersatz", t.auswahl.kirchensteuersatz.text());
+        .roh("kirchensteuersatz", t.auswahl.kirchensteuersatz.text())
+        .zahl("recht", static_cast<std::int16_t>(t.auswahl.recht))
+        .text("titel", lstrtabTitelFuer(t.auswahl.recht));
     j.feldAnfang("klassen");
     for (int klasse = 1; klasse <= 6; ++klasse) {
         const Tabellenzeile& z = t.zeilen[klasse];
@@ -73,7 +76,7 @@ void alsJson(Kontext& k, const Lohnsteuertabelle& t, std::ostream& aus) {
 
 void alsText(const Lohnsteuertabelle& t, std::ostream& aus) {
     const Tabellenauswahl& a = t.auswahl;
-    aus << lstrtabTitel << "\n"
+    aus << lstrtabTitelFuer(a.recht) << "\n"
         << lohnzeitraumliste[static_cast<std::size_t>(a.lohnzeitraum - 1)] << ", "
         << kinderfreibetragseintrag(static_cast<int>(a.kinderfreibetraege.roh() / 5000)) << ", "
         << tabellenliste[static_cast<std::size_t>(a.besonderetabelle)] << ", "
@@ -97,7 +100,7 @@ void alsText(const Lohnsteuertabelle& t, std::ostream& aus) {
 } // namespace
 
 int tabelle(Kontext& k, std::ostream& aus) {
-    k.optionen.nurErlaubt({"zeitraum", "stufe", "kinder", "beamte", "alter", "kirche"});
+    k.optionen.nurErlaubt({"zeitraum", "stufe", "kinder", "beamte", "alter", "kirche", "recht"});
     Lohnsteuertabelle t;
     t.auswahl = auswahlAus(k.optionen);
     tabellefuellen(t);

@@ -1,8 +1,10 @@
 // The wage-tax routine of 1997/1998: wage tax, solidarity surcharge and church-tax base of one
-// wage in one period, computed by steps of 54 DM of yearly wage as the printed tables do.
+// wage in one period, computed by steps of 54 DM of yearly wage as the printed tables do, with
+// the tariff and surcharge of the law the run names (the law of 1997 unless said otherwise).
 #pragma once
 
 #include "core/currency.h"
+#include "engine/steuerrecht.h"
 
 #include <cstdint>
 
@@ -21,6 +23,8 @@ struct Lohnsteuerlauf {
     Currency lzzfreib;          // allowance of the period, Pfennig
     std::int16_t besonders = 0; // 1: the special table for civil servants
     std::int16_t kirche = 0;    // above 0 if church tax applies
+    // The law whose tariff and surcharge the run takes.
+    Steuerrecht recht = Steuerrecht::recht1997;
 
     // --- outputs, Pfennig
     Currency lstlzz;     // wage tax of the period, cut to whole Pfennig

@@ -10,7 +10,8 @@
 namespace lonvir {
 
 // The caption of the main window: "LONVIR 1997 im öffentlichen Dienst    (ohne Gewähr)", with
-// the year of the open set.
+// the year of the open set; in 1998 with the tax law of 1998 switched on followed by
+// "    Lohnsteuer nach dem Steuerrecht 1998".
 [[nodiscard]] std::string fenstertitel(const Sitzung& s);
 
 class Hauptform {

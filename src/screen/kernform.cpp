@@ -2,6 +2,7 @@
 #include "screen/hauptform.h"
 
 #include "engine/monatladen.h"
+#include "engine/steuerrechtwahl.h"
 #include "start/einstellungen.h"
 #include "start/start.h"
 #include "start/texte.h"
@@ -9,8 +10,12 @@
 namespace lonvir {
 
 std::string fenstertitel(const Sitzung& s) {
-    return std::string("LONVIR ") + (s.ist1997() ? "1997" : std::to_string(s.jahr)) +
-           " im öffentlichen Dienst    (ohne Gewähr)";
+    std::string titel = std::string("LONVIR ") + (s.ist1997() ? "1997" : std::to_string(s.jahr)) +
+                        " im öffentlichen Dienst    (ohne Gewähr)";
+    // The months of 1998 computed by the tax law of 1998 say so; the law of 1997 is the rule.
+    if (steuerrechtfuer(s) == Steuerrecht::recht1998)
+        titel += "    " + steuerrechtzeile(s);
+    return titel;
 }
 
 void Kernform::bildauffrischen() {

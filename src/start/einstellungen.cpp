@@ -163,6 +163,7 @@ void aktualisieren(Sitzung& s) {
     e.kirchenpausch = ganzzahl(s, 28);
     for (int i = 0; i <= 3; ++i)
         e.zuwendungsquote[i] = s.voreinstellung[30 + i];
+    e.steuerrecht1998 = ganzzahl(s, steuerrecht1998element) == 1;
     // Person 0 is no person: the start treats it as person 1.
     const std::int32_t person = ganzzahl(s, 15);
     s.aktuelleperson = pf::int16(person < 1 ? 1 : person);
