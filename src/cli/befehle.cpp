@@ -15,7 +15,8 @@ namespace {
 const char* const aufruf =
     "Aufruf: lonvir97-cli BEFEHL [--ordner DIR] [--jahr 1997|1998] [--schicht INFO|PLAN|REAL]\n"
     "                    [--json] [--ja|--nein] ...\n"
-    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, installieren\n";
+    "Befehle: anlegen, zeigen, setzen, satz, lohnsteuer, tabelle, uebertragen, einstellungen,\n"
+    "         drucken, tarif, text, suchen, installieren\n";
 
 std::filesystem::path standardordner() {
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
@@ -44,10 +45,19 @@ struct Befehl {
 
 // The wage-tax run and the table band compute from their options alone.
 constexpr Befehl befehle[] = {
-    {"anlegen", anlegen, true},         {"zeigen", zeigen, true},
-    {"setzen", setzen, true},           {"satz", satz, true},
-    {"uebertragen", uebertragen, true}, {"lohnsteuer", lohnsteuer, false},
+    {"anlegen", anlegen, true},
+    {"zeigen", zeigen, true},
+    {"setzen", setzen, true},
+    {"satz", satz, true},
+    {"uebertragen", uebertragen, true},
+    {"lohnsteuer", lohnsteuer, false},
     {"tabelle", tabelle, false},
+    {"einstellungen", einstellungen, true},
+    // drucken opens the folder itself, once its report and options are known to be good.
+    {"drucken", drucken, false},
+    {"tarif", tarif, true},
+    {"text", text, true},
+    {"suchen", suchen, true},
 };
 
 const Befehl* befehlVon(const std::string& name) {

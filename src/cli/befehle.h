@@ -47,6 +47,11 @@ int satz(Kontext& k, std::ostream& aus);
 int lohnsteuer(Kontext& k, std::ostream& aus);
 int tabelle(Kontext& k, std::ostream& aus);
 int uebertragen(Kontext& k, std::ostream& aus);
+int drucken(Kontext& k, std::ostream& aus);
+int einstellungen(Kontext& k, std::ostream& aus);
+int tarif(Kontext& k, std::ostream& aus);
+int text(Kontext& k, std::ostream& aus);
+int suchen(Kontext& k, std::ostream& aus);
 
 // A count of child allowances, 0 to 7 in steps of 0.5, written "1,5" or "1.5"; missing is 0
 // unless pflicht is set. Anything else is a usage error.

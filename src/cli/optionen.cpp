@@ -10,15 +10,20 @@ namespace {
 // Options that stand alone; every other option takes a value.
 const std::set<std::string> alleinstehend = {"json",      "ja",     "nein",  "alter64",
                                              "besonders", "beamte", "alter", "leer"};
+// Commands that take a word behind them: drucken BERICHT.
+const std::set<std::string> mitArgument = {"drucken"};
 } // namespace
 
 Optionen::Optionen(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         if (a.rfind("--", 0) != 0) {
-            if (!befehl_.empty())
+            if (befehl_.empty())
+                befehl_ = a;
+            else if (mitArgument.count(befehl_) && argumente_.empty())
+                argumente_.push_back(a);
+            else
                 throw Aufruffehler("Unerwartetes Argument: " + a);
-            befehl_ = a;
             continue;
         }
         std::string name = a.substr(2);

@@ -20,6 +20,8 @@ public:
     Optionen(int argc, char** argv);
 
     [[nodiscard]] const std::string& befehl() const { return befehl_; }
+    // The words behind the command that are no options (only commands that take them).
+    [[nodiscard]] const std::vector<std::string>& argumente() const { return argumente_; }
     [[nodiscard]] bool schalter(const std::string& name) const;
     [[nodiscard]] std::optional<std::string> wert(const std::string& name) const;
     // An integer option within [min, max]; missing or out of range is a usage error.
@@ -31,6 +33,7 @@ public:
 
 private:
     std::string befehl_;
+    std::vector<std::string> argumente_;
     std::map<std::string, std::string> werte_;
     std::map<std::string, bool> schalter_;
 };

@@ -40,6 +40,8 @@ std::int32_t ostumrechnung(const Sitzung& s, std::int32_t betrag) {
     return pf::gerundet(static_cast<double>(betrag) / 84 * 85);
 }
 
+} // namespace
+
 // Step 1 and 2 of the base: the step before the reform, from the service age in June 1997,
 // held below the old top step of the July group.
 int altestufe(const Sitzung& s, const Personalsatz& juli) {
@@ -54,8 +56,6 @@ int altestufe(const Sitzung& s, const Personalsatz& juli) {
     }
     return stufe;
 }
-
-} // namespace
 
 int altestufengrenze(int gruppe) {
     if (gruppe <= 3)

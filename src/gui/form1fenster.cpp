@@ -4,9 +4,11 @@
 #include "core/laufzeitfehler.h"
 #include "gui/farben.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
@@ -202,10 +204,37 @@ void Form1Fenster::kopfAufbauen(QWidget* kopf) {
     command1text_->setAlignment(Qt::AlignCenter);
     command1text_->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(command1_, &QPushButton::clicked, this, [this] { emit bemerkungGeklickt(); });
+    command6_ = new QPushButton(QStringLiteral("Suchen"), kopf);
+    command6_->setObjectName(QStringLiteral("Command6"));
+    command6_->setFocusPolicy(Qt::NoFocus);
+    connect(command6_, &QPushButton::clicked, this, [this] { emit suchenGeklickt(); });
+    command7_ = new QPushButton(QStringLiteral("Reform"), kopf);
+    command7_->setObjectName(QStringLiteral("Command7"));
+    command7_->setFocusPolicy(Qt::NoFocus);
+    connect(command7_, &QPushButton::clicked, this, [this] { emit reformGeklickt(); });
     monatstitel_ = new QLabel(kopf);
     monatstitel_->setObjectName(QStringLiteral("Monatstitel"));
     monatstitel_->setAlignment(Qt::AlignCenter);
     monatstitel_->setStyleSheet(QStringLiteral("color: #000080; font-weight: bold;"));
+}
+
+// Letters typed into the name list offer the names that begin with them, the first marked:
+// Enter or a click on one makes that person current. A name that no one bears is a rename.
+void Form1Fenster::namenvervollstaendigen(QComboBox* liste) {
+    QCompleter* c = liste->completer();
+    if (c == nullptr) {
+        c = new QCompleter(liste->model(), liste);
+        liste->setCompleter(c);
+    }
+    c->setCaseSensitivity(Qt::CaseInsensitive);
+    c->setFilterMode(Qt::MatchStartsWith);
+    c->setCompletionMode(QCompleter::PopupCompletion);
+    connect(liste->lineEdit(), &QLineEdit::textEdited, this, [c] {
+        QTimer::singleShot(0, c, [c] {
+            if (c->popup()->isVisible() && c->completionCount() > 0)
+                c->popup()->setCurrentIndex(c->completionModel()->index(0, 0));
+        });
+    });
 }
 
 void Form1Fenster::verbinden(int zeile) {
@@ -214,6 +243,8 @@ void Form1Fenster::verbinden(int zeile) {
         w.z->installEventFilter(this);
         if (w.z->lineEdit())
             w.z->lineEdit()->installEventFilter(this);
+        if (zeile == 0)
+            namenvervollstaendigen(w.z);
         connect(w.z, &QComboBox::activated, this, [this, zeile](int position) {
             ausfuehren([&] {
                 modell_.bild.zeilen[static_cast<std::size_t>(zeile)].position = position;
@@ -412,6 +443,20 @@ void Form1Fenster::kopfDarstellen() {
                                    : QStringLiteral("background: #C0C0C0; color: #000000;"));
         panel->setFrameShadow(aktiv ? QFrame::Sunken : QFrame::Raised);
     }
+    // The preset mode re-captions the transfer buttons; its two take the room of all four.
+    // Command4 and Command5 keep their places, from which the other two are measured.
+    const QRect b4 = uebertragknoepfe_[2]->geometry();
+    const int schritt = uebertragknoepfe_[3]->x() - b4.x();
+    const bool modus = modell_.voreinstellung.aktiv;
+    for (std::size_t i = 0; i < 4; ++i) {
+        const int knopf = static_cast<int>(i) + 2;
+        uebertragknoepfe_[i]->setText(text(uebertragknopftext(modell_, knopf)));
+        uebertragknoepfe_[i]->setVisible(uebertragknopfsichtbar(modell_, knopf));
+    }
+    const int breite = modus ? schritt + b4.width() : b4.width();
+    uebertragknoepfe_[0]->setGeometry(b4.x() - 2 * schritt, b4.y(), breite, b4.height());
+    uebertragknoepfe_[1]->setGeometry(modus ? b4.x() : b4.x() - schritt, b4.y(), breite,
+                                      b4.height());
 }
 
 void Form1Fenster::fokusUebergeben() {

@@ -43,11 +43,15 @@ public:
     [[nodiscard]] QCheckBox* schalter(Schalterart art, int zeile) const;
     [[nodiscard]] QLineEdit* bdaBeginn() const { return bdaBeginn_; }
     [[nodiscard]] QLabel* hinweis() const { return panel3D6_; }
+    [[nodiscard]] QPushButton* command7() const { return command7_; }
 
 signals:
     // The transfer buttons and the remark card belong to the navigation of the layers.
     void uebertragGeklickt(int von, int nach);
     void bemerkungGeklickt();
+    // Command6 opens the name search, Command7 the reform page.
+    void suchenGeklickt();
+    void reformGeklickt();
 
 protected:
     bool eventFilter(QObject* objekt, QEvent* ereignis) override;
@@ -70,6 +74,7 @@ private:
     void kopfAufbauen(QWidget* kopf);
     void kopfAusrechnen(double breite, double zeilenhoehe);
     void verbinden(int zeile);
+    void namenvervollstaendigen(QComboBox* liste);
     // Runs one handler with the hourglass; a run-time error ends the program with its message.
     void ausfuehren(const std::function<void()>& handler);
     bool zeilenereignis(int zeile, QObject* objekt, QEvent* ereignis);
@@ -97,6 +102,8 @@ private:
     std::array<QLabel*, 3> schichtpanels_{};
     std::array<QPushButton*, 4> uebertragknoepfe_{};
     QPushButton* command1_ = nullptr;
+    QPushButton* command6_ = nullptr;
+    QPushButton* command7_ = nullptr;
     QLabel* command1text_ = nullptr;
     QTimer* geometriezeit_ = nullptr;
     bool darstellend_ = false;

@@ -184,7 +184,9 @@ void Form1Fenster::kopfAusrechnen(double breite, double h) {
         std::max(6, std::min(static_cast<int>(h * 0.5), static_cast<int>(hoehe / 3.6))));
     command1text_->setFont(klein);
     command1text_->setGeometry(command1_->rect().adjusted(2, 1, -2, -1));
-    setzen(monatstitel_, linkerAnteil + 0.01, 0.995, QStringLiteral("JANUAR 1997"), true);
+    setzen(command6_, 0.615, 0.665, QStringLiteral("Suchen"), false);
+    setzen(command7_, 0.67, 0.72, QStringLiteral("Reform"), false);
+    setzen(monatstitel_, 0.725, 0.995, QStringLiteral("JANUAR 1997"), true);
 }
 
 void Form1Fenster::resizeEvent(QResizeEvent* ereignis) {

@@ -2,6 +2,7 @@
 #include "core/laufzeitfehler.h"
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
+#include "gui/passwortfenster.h"
 #include "gui/qtdialoge.h"
 #include "gui/startform.h"
 #include "gui/tablettanbindung.h"
@@ -10,7 +11,10 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
@@ -24,6 +28,10 @@ struct Aufruf {
     QString bildschirmfoto; // file of a picture of the window, then the program ends
     QSize groesse;          // window size for the picture
     int seite = 0;          // a page of the panel opened for the picture
+    QString form;           // a form shown for the picture: Form14 or Password
+    QString markiert;       // the preset mode for the records VON-BIS, for the picture
+    QString menue;          // a menu entry clicked for the picture; a form it shows is taken
+    QString suche;          // a name searched on page 22 for the picture
 };
 
 Aufruf aufrufLesen(const QApplication& app) {
@@ -41,7 +49,20 @@ Aufruf aufrufLesen(const QApplication& app) {
     const QCommandLineOption seite(QStringLiteral("seite"),
                                    QStringLiteral("Seite des Tabletts für das Bild"),
                                    QStringLiteral("N"));
-    p.addOptions({ordner, foto, groesse, seite});
+    const QCommandLineOption menue(QStringLiteral("menue"),
+                                   QStringLiteral("Menüpunkt für das Bild, z. B. M_KV"),
+                                   QStringLiteral("NAME"));
+    const QCommandLineOption form(QStringLiteral("form"),
+                                  QStringLiteral("Form für das Bild: Form14 oder Password"),
+                                  QStringLiteral("NAME"));
+    const QCommandLineOption markiert(
+        QStringLiteral("voreinstellung"),
+        QStringLiteral("Hauptbild im Voreinstellungsmodus für die Datensätze VON-BIS"),
+        QStringLiteral("VON-BIS"));
+    const QCommandLineOption suche(QStringLiteral("suche"),
+                                   QStringLiteral("Namenssuche der Seite 22 für das Bild"),
+                                   QStringLiteral("TEXT"));
+    p.addOptions({ordner, foto, groesse, seite, form, markiert, menue, suche});
     p.process(app);
     Aufruf a;
     a.ordner = p.isSet(ordner) ? p.value(ordner)
@@ -51,6 +72,10 @@ Aufruf aufrufLesen(const QApplication& app) {
     if (teile.size() == 2)
         a.groesse = QSize(teile[0].toInt(), teile[1].toInt());
     a.seite = p.value(seite).toInt();
+    a.form = p.value(form);
+    a.markiert = p.value(markiert);
+    a.menue = p.value(menue);
+    a.suche = p.value(suche);
     return a;
 }
 
@@ -59,13 +84,48 @@ void fotografieren(lonvir::gui::Form1Fenster& fenster, lonvir::gui::Tablettanbin
     fenster.geometrieFesthalten();
     if (a.groesse.isValid())
         fenster.resize(a.groesse);
+    // A form that a page or a menu entry shows is the picture itself.
+    static QPointer<QDialog> form;
+    QObject::connect(&tablett, &lonvir::gui::Tablettanbindung::formGezeigt, &fenster,
+                     [](QDialog* f) { form = f; });
     QTimer::singleShot(500, &fenster, [&fenster, &tablett, a] {
         fenster.bildausrechnen(true);
         fenster.darstellen();
         if (a.seite > 0)
             tablett.seiteoeffnen(a.seite);
-        const bool gespeichert = fenster.grab().save(a.bildschirmfoto);
-        QApplication::exit(gespeichert ? 0 : 4);
+        const QStringList bereich = a.markiert.split(QLatin1Char('-'));
+        if (bereich.size() == 2) {
+            lonvir::voreinstellmodusbeginnen(fenster.modell(), bereich[0].toInt(),
+                                             bereich[1].toInt());
+            fenster.darstellen();
+        }
+        if (a.form == QStringLiteral("Password")) {
+            // The form as it stands after three keys.
+            auto* passwort = new lonvir::gui::PasswortFenster(fenster.modell().s, &fenster);
+            for (int i = 0; i < 3; ++i)
+                passwort->pawo(i)->setText(QStringLiteral("x"));
+            passwort->mittig();
+            passwort->show();
+            QApplication::processEvents();
+            QApplication::exit(passwort->grab().save(a.bildschirmfoto) ? 0 : 4);
+            return;
+        }
+        if (a.form == QStringLiteral("Form14"))
+            tablett.formzeigen("Form14");
+        if (!a.menue.isEmpty())
+            tablett.menueklick(a.menue.toStdString());
+        if (a.seite == 22 && !a.suche.isEmpty()) {
+            QLineEdit* feld = tablett.ansicht()->text(1);
+            feld->setText(a.suche);
+            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+            QApplication::sendEvent(feld, &enter);
+        }
+        QApplication::processEvents();
+        QTimer::singleShot(300, &fenster, [&fenster, a] {
+            const bool gespeichert =
+                form ? form->grab().save(a.bildschirmfoto) : fenster.grab().save(a.bildschirmfoto);
+            QApplication::exit(gespeichert ? 0 : 4);
+        });
     });
 }
 
@@ -99,11 +159,12 @@ int main(int argc, char** argv) {
         if (ergebnis == lonvir::Startergebnis::angehalten)
             return app.exec(); // the start form stays up; no main form follows
         if (ergebnis == lonvir::Startergebnis::passwort) {
-            QMessageBox::warning(&start, QStringLiteral("Passwort"),
-                                 QStringLiteral("Die Startsperre ist gesetzt. Die Eingabe des "
-                                                "Passworts ist in dieser Fassung noch nicht "
-                                                "möglich."));
-            return 1;
+            // The start lock: page 2 is the check of the entry; Cancel ends the program.
+            s.Tablettseite = 2;
+            lonvir::gui::PasswortFenster passwort(s);
+            dialoge.elternSetzen(&passwort);
+            if (passwort.zeigen() != lonvir::Password::Stand::richtig)
+                return 0;
         }
         lonvir::gui::Form1Fenster fenster(s, dialoge, &hilfe);
         dialoge.elternSetzen(&fenster);

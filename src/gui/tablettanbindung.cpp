@@ -1,12 +1,23 @@
 // Wiring of the panel and the menu to the window Form1.
 #include "gui/tablettanbindung.h"
 
+#include "engine/berechnen.h"
+#include "gui/farbenfenster.h"
+#include "gui/kvfenster.h"
+#include "gui/passwortfenster.h"
+#include "gui/tarifefenster.h"
+#include "gui/texteditfenster.h"
+#include "panels/namen.h"
+#include "panels/tarife.h"
 #include "screen/uebertragung.h"
+#include "screen/voreinstellmodus.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 
@@ -33,13 +44,49 @@ Tablettanbindung::Tablettanbindung(Form1Fenster& fenster, Sitzung& s, Hilfe* hil
     s_.anzeige = this;
     ansicht_ = new TablettFenster(
         t_, [this](const std::function<void()>& h) { ausfuehren(h); }, f_.centralWidget());
-    connect(&f_, &Form1Fenster::uebertragGeklickt, this, [this](int von, int nach) {
-        // No recalculation and no refresh: the screen shows the old data.
-        ausfuehren([&] {
-            uebertragen(s_, static_cast<std::int16_t>(von), static_cast<std::int16_t>(nach));
-        });
-    });
+    connect(&f_, &Form1Fenster::uebertragGeklickt, this,
+            [this](int von, int nach) { uebertragknopf(von, nach); });
+    t_.linkespalteauffrischen = [this] { f_.modell().bildauffrischen(); };
+    t_.voreinstellmodus = [this](int von, int bis) {
+        voreinstellmodusbeginnen(f_.modell(), von, bis);
+    };
+    // Shown once the click on "Passwort ändern" is over, not from within its handler.
+    t_.passwortzeigen = [this] { QTimer::singleShot(0, this, [this] { formzeigen("Password"); }); };
     connect(&f_, &Form1Fenster::bemerkungGeklickt, this, [this] { seiteoeffnen(23); });
+    connect(&f_, &Form1Fenster::suchenGeklickt, this, [this] { seiteoeffnen(22); });
+    connect(&f_, &Form1Fenster::reformGeklickt, this, [this] {
+        // Before the law in force the page stays shut and the button says so.
+        if (!reformseiteoffen(s_)) {
+            f_.command7()->setText(QString::fromUtf8(reformgesperrt));
+            f_.command7()->setToolTip(QString::fromUtf8(reformgesperrt));
+            return;
+        }
+        f_.command7()->setText(QStringLiteral("Reform"));
+        seiteoeffnen(68);
+    });
+}
+
+// The main screen's part in a change of the tables: the model of Form1 does it.
+Hauptbildauftrag Tablettanbindung::hauptbildauftrag() {
+    Hauptbildauftrag a;
+    a.bildauffrischen = [this] { f_.modell().bildauffrischen(); };
+    a.listenauffrischen = [this] {
+        Form1& f = f_.modell();
+        s_.aenderungssperre = -1;
+        f.listenfuellen();
+        f.namensliste();
+        s_.aenderungssperre = 0;
+        f.bildauffrischen();
+    };
+    a.nachrechnen = [this] {
+        Form1& f = f_.modell();
+        f.kvliste();
+        s_.aenderungscode = 0;
+        s_.Neuberechnung = -1;
+        lonvir::nachrechnen(s_);
+        f.allezeilen();
+    };
+    return a;
 }
 
 Tablettanbindung::~Tablettanbindung() {
@@ -88,7 +135,9 @@ void Tablettanbindung::darstellen() {
         p2->setVisible(lage_.panel3d2sichtbar);
     if (t_.formwunsch) {
         // The wage-tax table viewer comes with its own window; until then nothing opens.
+        const std::string name = *t_.formwunsch;
         t_.formwunsch.reset();
+        formzeigen(name);
     }
 }
 
@@ -114,6 +163,66 @@ void Tablettanbindung::seiteoeffnen(int seite) {
     });
 }
 
+void Tablettanbindung::uebertragknopf(int von, int nach) {
+    Form1& form = f_.modell();
+    if (form.voreinstellung.aktiv) {
+        int knopf = 0;
+        for (int k = 2; k <= 5; ++k)
+            if (const auto r = uebertragungsrichtung(k); r && r->first == von && r->second == nach)
+                knopf = k;
+        QProgressDialog fortschritt(QStringLiteral("Voreinstellungen werden übertragen ..."),
+                                    QString(), 0, 1, &f_);
+        fortschritt.setWindowTitle(QStringLiteral("Voreinstellungen"));
+        fortschritt.setWindowModality(Qt::WindowModal);
+        fortschritt.setMinimumDuration(300);
+        ausfuehren([&] {
+            voreinstellknopf(form, knopf, [&fortschritt](int erledigt, int gesamt) {
+                fortschritt.setMaximum(gesamt);
+                fortschritt.setValue(erledigt);
+                QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            });
+        });
+        return;
+    }
+    // No recalculation and no refresh: the screen shows the old data.
+    ausfuehren(
+        [&] { uebertragen(s_, static_cast<std::int16_t>(von), static_cast<std::int16_t>(nach)); });
+}
+
+void Tablettanbindung::formzeigen(const std::string& name) {
+    if (name == "Form14") {
+        auto* farben = new FarbenFenster(f_);
+        connect(farben, &FarbenFenster::entladen, farben, &QObject::deleteLater);
+        farben->laden();
+        return;
+    }
+    if (name == "Password") {
+        PasswortFenster passwort(s_, &f_);
+        passwort.zeigen();
+        f_.darstellen();
+        darstellen();
+        return;
+    }
+    // The forms that keep the tables open beside the main screen.
+    const auto ereignis = [this](const std::function<void()>& h) { ausfuehren(h); };
+    QDialog* form = nullptr;
+    if (name == "Tarife" && tarifseite(s_.Tablettseite))
+        form = new TarifeFenster(s_, s_.Tablettseite, hauptbildauftrag(), ereignis, &f_);
+    else if (name == "KV")
+        form = new KvFenster(s_, hauptbildauftrag(), ereignis, &f_);
+    else if (name == "Textedit")
+        form = new TexteditFenster(s_, t_.textvon, t_.textbis, hauptbildauftrag(), ereignis, &f_);
+    if (form == nullptr)
+        return; // the totals form Form2 comes with its own unit
+    // Left and top of the main form, 320 twips lower.
+    const double tpp = twipsJePixel();
+    form->move(f_.mapToGlobal(QPoint(0, static_cast<int>(std::lround(320 / tpp)))));
+    form->setModal(false);
+    form->show();
+    form->raise();
+    emit formGezeigt(form);
+}
+
 void Tablettanbindung::tablettauffrischen() {
     t_.auffrischen();
     // A run from the main screen's own handlers: the panel follows once they are done.
@@ -131,6 +240,11 @@ void Tablettanbindung::menueklick(const std::string& name) {
     ausfuehren([&] { lonvir::menueklick(ziel_, name); });
     if (ziel_.beendet)
         QApplication::exit(0);
+    if (ziel_.formwunsch) {
+        const std::string form = *ziel_.formwunsch;
+        ziel_.formwunsch.reset();
+        formzeigen(form);
+    }
     // A change of year may check and enable other entries: the bar is built again once
     // this click is over.
     if (p && (p->aktion == Menueaktion::jahr || p->aktion == Menueaktion::personalloeschen))

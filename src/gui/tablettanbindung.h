@@ -5,9 +5,11 @@
 
 #include "gui/form1fenster.h"
 #include "gui/tablettfenster.h"
+#include "panels/hauptbildauftrag.h"
 #include "panels/tablett.h"
 #include "screen/hauptmenue.h"
 
+#include <QDialog>
 #include <QObject>
 
 #include <memory>
@@ -30,6 +32,14 @@ public:
     void darstellen();
     // Opens page `seite` as a menu entry or button does.
     void seiteoeffnen(int seite);
+    // A form of its own, as MFarben shows Form14, or the password form of page 70.
+    void formzeigen(const std::string& name);
+    // A transfer button: between the layers, or in the preset mode transfer and cancel.
+    void uebertragknopf(int von, int nach);
+
+signals:
+    // A form of its own (tariffs, rates, texts) has been shown.
+    void formGezeigt(QDialog* form);
 
 private:
     // Anzeige: the rows go to the main screen, the refresh of the page to the panel.
@@ -38,6 +48,7 @@ private:
     void mauszeigerNormal() override { f_.modell().mauszeigerNormal(); }
 
     void ausfuehren(const std::function<void()>& handler);
+    [[nodiscard]] Hauptbildauftrag hauptbildauftrag();
     void formlageholen();
     [[nodiscard]] double twipsJePixel() const;
 

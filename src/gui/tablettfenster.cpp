@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -24,6 +25,19 @@ QString qtext(const std::string& utf8) {
 
 QString farbe(int nummer) {
     return qbcolor(nummer).name();
+}
+
+// A key as the panel's text handlers know it: a character, Enter 13, backspace 8; 0 for keys
+// that type nothing (arrows, Delete), which go to the box as they are.
+int feldtaste(const QKeyEvent* e) {
+    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter)
+        return 13;
+    if (e->key() == Qt::Key_Backspace)
+        return 8;
+    const QString t = e->text();
+    if (t.size() != 1 || t[0].unicode() < 32 || t[0].unicode() > 255)
+        return 0;
+    return t[0].unicode();
 }
 
 QFont schrift(const std::string& name, double punkte, bool fett) {
@@ -61,6 +75,12 @@ TablettFenster::TablettFenster(Tablett& modell,
         listen_[i] = new QComboBox(this);
         listen_[i]->setObjectName(QStringLiteral("Combo%1").arg(i));
         listen_[i]->installEventFilter(this);
+        connect(listen_[i], &QComboBox::activated, this, [this, index](int position) {
+            ereignis_([this, index, position] {
+                t_.Combo[index].position = position;
+                t_.combo_Click(index);
+            });
+        });
     }
     for (std::size_t i = 0; i < 2; ++i) {
         gitter_[i] = new QTableWidget(this);
@@ -100,6 +120,24 @@ bool TablettFenster::eventFilter(QObject* objekt, QEvent* ereignis) {
             return true;
         }
     }
+    if (ereignis->type() == QEvent::KeyPress)
+        for (int i = 0; i <= 17; ++i) {
+            QLineEdit* feld = texte_[static_cast<std::size_t>(i)];
+            if (objekt != feld)
+                continue;
+            const int taste = feldtaste(static_cast<QKeyEvent*>(ereignis));
+            if (taste == 0)
+                return false;
+            t_.Text[i].text = feld->text().toStdString();
+            int weiter = 0;
+            ereignis_([&] { weiter = t_.text_KeyPress(i, taste); });
+            if (weiter == taste && taste != 13)
+                return false; // the box types the key itself
+            if (weiter != 0)
+                feld->insert(QString(QChar(weiter)));
+            t_.Text[i].text = feld->text().toStdString();
+            return true;
+        }
     if (ereignis->type() == QEvent::FocusIn)
         for (int i = 0; i <= 17; ++i) {
             if (objekt == texte_[static_cast<std::size_t>(i)])
@@ -113,6 +151,22 @@ bool TablettFenster::eventFilter(QObject* objekt, QEvent* ereignis) {
 void TablettFenster::mouseReleaseEvent(QMouseEvent* ereignis) {
     ereignis_([this] { t_.Form_Click(); });
     QFrame::mouseReleaseEvent(ereignis);
+}
+
+void TablettFenster::fokusuebergeben() {
+    if (!t_.sichtbar || t_.fokus == gesetzterfokus_)
+        return;
+    gesetzterfokus_ = t_.fokus;
+    const auto i = static_cast<std::size_t>(t_.fokus.index);
+    QWidget* ziel = nullptr;
+    if (t_.fokus.art == Tablettfokusart::text && i < texte_.size())
+        ziel = texte_[i];
+    else if (t_.fokus.art == Tablettfokusart::combo && i < listen_.size())
+        ziel = listen_[i];
+    else if (t_.fokus.art == Tablettfokusart::knopf && i >= 1 && i <= knoepfe_.size())
+        ziel = knoepfe_[i - 1];
+    if (ziel && ziel->isVisible())
+        ziel->setFocus(Qt::OtherFocusReason);
 }
 
 void TablettFenster::darstellen(double twipsJePixel) {
@@ -162,6 +216,9 @@ void TablettFenster::darstellen(double twipsJePixel) {
             b->addItem(qtext(eintrag));
         b->setCurrentIndex(c.position);
         b->setGeometry(rechteck(c.lage));
+        b->setFont(schrift("arial", c.schriftgroesse, false));
+        b->setStyleSheet(QStringLiteral("QComboBox { color: %1; background: %2; }")
+                             .arg(farbe(c.vordergrund), farbe(c.hintergrund)));
         b->setEnabled(c.aktiv);
         b->setVisible(c.sichtbar);
     }
@@ -197,6 +254,7 @@ void TablettFenster::darstellen(double twipsJePixel) {
         rollbalken_[i]->setVisible(balken[i]->sichtbar);
     }
     setCursor(t_.sanduhr ? Qt::WaitCursor : Qt::ArrowCursor);
+    fokusuebergeben();
     darstellend_ = false;
 }
 

@@ -31,6 +31,7 @@ public:
     [[nodiscard]] QLabel* zeile(int i) const { return zeilen_.at(static_cast<std::size_t>(i)); }
     [[nodiscard]] QLabel* kasten(int i) const { return kaesten_.at(static_cast<std::size_t>(i)); }
     [[nodiscard]] QLineEdit* text(int i) const { return texte_.at(static_cast<std::size_t>(i)); }
+    [[nodiscard]] QComboBox* liste(int i) const { return listen_.at(static_cast<std::size_t>(i)); }
     [[nodiscard]] QPushButton* knopf(int i) const {
         return knoepfe_.at(static_cast<std::size_t>(i - 1));
     }
@@ -51,6 +52,9 @@ private:
     std::array<QScrollBar*, 3> rollbalken_{};
     double tpp_ = 15.0;
     bool darstellend_ = false;
+    Tablettfokus gesetzterfokus_;
+    // The model's wish for the focus, taken once each time it changes.
+    void fokusuebergeben();
 };
 
 } // namespace lonvir::gui

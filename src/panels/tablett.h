@@ -11,6 +11,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lonvir {
@@ -44,6 +45,8 @@ struct Tablettliste {
     std::vector<std::string> liste;
     int position = -1;
     int vordergrund = 0;
+    int hintergrund = 15;
+    double schriftgroesse = 8.25;
 };
 
 // A label of the array zeile: a row caption.
@@ -161,6 +164,25 @@ public:
     Feld<std::int32_t, 0, 27> umlagewert;
     // The text z(row) shows on the main screen; the screen model supplies it.
     std::function<std::string(int)> zeilenname;
+    // Page 22: the search text, the hits as list positions at 1 to 7 (shown in zeile(10 + i)),
+    // and their number.
+    std::string suchtext;
+    Feld<std::int16_t, 0, 8> trefferliste;
+    std::int16_t trefferzahl = 0;
+    // Page 4: the cost centre chosen, 35 characters; blank when all staff are summed.
+    std::string kostenstellenauswahl = std::string(35, ' ');
+    // The range of the text table the text editor opens on; the entries of "Txt" set it.
+    std::int16_t textvon = 1;
+    std::int16_t textbis = 6000;
+    // What the settings pages ask of the main screen. Without a window the refresh of the
+    // left column loads the month with its run, the preset mode only keeps its range, and
+    // the password form is only noted.
+    std::function<void()> linkespalteauffrischen;
+    std::function<void(int von, int bis)> voreinstellmodus;
+    std::function<void()> passwortzeigen;
+    // The range of records page 61 marked last, first and last number.
+    std::optional<std::pair<int, int>> markierbereich;
+    bool passwortverlangt = false;
 
     // --- opening and clearing
     void tablettoeffnen();
@@ -176,6 +198,10 @@ public:
     void command2_Click();
     void Command3_Click();
     void combo_GotFocus(int index);
+    // A pick in Combo(index): its position is already in the model.
+    void combo_Click(int index);
+    // A key typed into Text(index): returns the key as it goes on, 0 when it is dropped.
+    int text_KeyPress(int index, int taste);
     void text_GotFocus(int index);
     void zeile_Click(int index);
     void kasten_Click(int index);

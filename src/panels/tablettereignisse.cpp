@@ -1,6 +1,8 @@
 // The events of the panel: the buttons, the clicks that hand back to Form1, the form's own.
+#include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tablett.h"
+#include "panels/vorgabeseiten.h"
 
 namespace lonvir {
 
@@ -58,8 +60,59 @@ void Tablett::schliessen() {
 }
 
 void Tablett::Command1_Click() {
-    if (s.Tablettseite == 23)
+    switch (s.Tablettseite) {
+    case 23:
         jahreswertespeichern(*this);
+        break;
+    case 44:
+        tarifstrukturspeichern(*this);
+        break;
+    case 61:
+        markieren(*this);
+        break;
+    case 63:
+        sozvorgabenspeichern(*this);
+        break;
+    case 64:
+        weihnachtsspeichern(*this);
+        break;
+    case 65:
+        zvkvorgabenspeichern(*this);
+        break;
+    default:
+        break;
+    }
+}
+
+void Tablett::combo_Click(int index) {
+    // The settings pages take their lists at "Speichern"; page 2 writes the lock at once.
+    if (s.Tablettseite == 2 && index == 0)
+        passwortartklick(*this);
+    // On page 4 only a choice after the focus came to the list is the user's.
+    if (s.Tablettseite == 4 && index == 0 && Comboaktiv == 1) {
+        Comboaktiv = 0;
+        kostenstellewaehlen(*this);
+    }
+}
+
+int Tablett::text_KeyPress(int index, int taste) {
+    switch (s.Tablettseite) {
+    case 61:
+        return markiertaste(*this, index, taste);
+    case 64:
+        return weihnachtstaste(*this, index, taste);
+    case 65:
+        return zvktaste(*this, index, taste);
+    case 22:
+        // Enter in the search field starts the name search.
+        if (index == 1 && taste == 13) {
+            namensuchen(*this);
+            return 0;
+        }
+        return taste;
+    default:
+        return taste;
+    }
 }
 
 void Tablett::command2_Click() {
@@ -86,6 +139,13 @@ void Tablett::command2_Click() {
 }
 
 void Tablett::Command3_Click() {
+    if (s.Tablettseite == 2) {
+        // "Passwort ändern": the entry of the form Password is the new password.
+        s.Tablettseite = 70;
+        if (passwortzeigen)
+            passwortzeigen();
+        return;
+    }
     const int seite = s.Tablettseite;
     const auto kontext = hilfekontext(seite, s.personalart());
     if (kontext)
@@ -105,7 +165,9 @@ void Tablett::text_GotFocus(int index) {
     fokus = {Tablettfokusart::text, index};
 }
 
-void Tablett::zeile_Click(int) {
+void Tablett::zeile_Click(int index) {
+    if (s.Tablettseite == 22 && index >= 10 && index <= 18)
+        trefferwaehlen(*this, index);
     if (erklaerseite(s.Tablettseite))
         schliessen();
 }

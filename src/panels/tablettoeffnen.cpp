@@ -1,6 +1,10 @@
 // Opening a page: clear, width, placement beside or over the left column, dispatch, show.
+#include "engine/monatladen.h"
+#include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tablett.h"
+#include "panels/tarife.h"
+#include "panels/vorgabeseiten.h"
 
 namespace lonvir {
 
@@ -24,7 +28,29 @@ Tablett::Tablett(Sitzung& sitzung, Form1lage& f, Hilfe* h) : s(sitzung), form(f)
         sozialbetraege(t);
     };
     bauer_[35] = teilzeitseite;
+    bauer_[2] = passwortseite;
+    bauer_[44] = tarifstrukturseite;
+    bauer_[61] = markierseite;
+    bauer_[63] = sozvorgabenseite;
+    bauer_[64] = weihnachtsseite;
+    bauer_[65] = zvkvorgabenseite;
+    bauer_[4] = amtseite;
+    bauer_[22] = namenseite;
+    bauer_[68] = reformseite;
+    // The tariff editor and the text editor are forms of their own: the face shows them.
+    for (int seite : {54, 55, 56, 57, 58, 59, 60, 62})
+        bauer_[seite] = [](Tablett& t) { t.formwunsch = "Tarife"; };
+    bauer_[69] = [](Tablett& t) {
+        t.textvon = 5001;
+        t.textbis = 6000;
+        t.formwunsch = "Textedit";
+    };
     zeilenname = [this](int z) { return zeilenbezeichnung(s, z); };
+    linkespalteauffrischen = [this] {
+        const std::int16_t monat = s.merkmal[20] >= 0 && s.merkmal[20] <= 12 ? s.merkmal[20] : 0;
+        monatladen(s, s.aktuelleperson, monat);
+    };
+    passwortzeigen = [this] { passwortverlangt = true; };
 }
 
 void Tablett::seiteanmelden(int seite, Seitenbauer bauer) {
@@ -122,6 +148,9 @@ void Tablett::tablettleeren() {
         Text[i].hintergrund = 15;
         Combo[i].sichtbar = false;
         Combo[i].vordergrund = 0;
+        // Only the cost-centre list is white on red and larger: the others stay as they were.
+        Combo[i].hintergrund = 15;
+        Combo[i].schriftgroesse = 8.25;
     }
     for (int i = 0; i <= 28; ++i) {
         Tablettzeile& z = zeile[i];

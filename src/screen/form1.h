@@ -5,6 +5,7 @@
 #include "core/hilfe.h"
 #include "screen/hauptbild.h"
 #include "screen/hauptform.h"
+#include "screen/voreinstellmodus.h"
 #include "start/sitzung.h"
 
 #include <cstdint>
@@ -58,8 +59,9 @@ public:
     bool jahresansicht = false;  // set while the year view is being built
     bool wiedereintritt = false; // the next activation acts as a click on aktuellezeile
     bool seiteverlangtauffrischen = false;
-    bool beendet = false; // MBeenden: the program ends, nothing is written
-    int fensterstufe = 0; // bildanpassen's state variable
+    bool beendet = false;            // MBeenden: the program ends, nothing is written
+    int fensterstufe = 0;            // bildanpassen's state variable
+    Voreinstellmodus voreinstellung; // the preset mode that page 61 starts
 
     // --- start and end (form load, activation, MBeenden, closing the window)
     void Form_Load();

@@ -1,6 +1,7 @@
 // The menu bar of Form1 in the designed order, and what its entries do.
 #include "screen/hauptmenue.h"
 
+#include "panels/textedit.h"
 #include "screen/navigation.h"
 #include "screen/personalloeschen.h"
 
@@ -37,12 +38,38 @@ Menuepunkt jahresmenue(const Sitzung& s, int jahr, bool jahr1998) {
     wahl.markiert = jahrgewaehlt(s, jahr);
     Menuepunkt loeschen = eintrag("MSaetze" + j, j + "er Personaldaten löschen ...",
                                   Menueaktion::personalloeschen, jahr);
+    // The tariff structure is that of the open year: the entry of the other year waits.
+    Menuepunkt struktur = seite(jahr == 1997 ? "MHochrechnung97" : "Mhochrechnung98",
+                                "Tarifstruktur " + j + " festlegen", 44);
+    struktur.aktiv = jahr == 1997 ? s.ist1997() : !s.ist1997();
     if (jahr == 1998) {
         wahl.aktiv = jahr1998;
         loeschen.aktiv = jahr1998;
     }
-    return menue(jahr == 1997 ? "M97" : "M98", jahr == 1997 ? "97" : "98",
-                 {std::move(wahl), std::move(loeschen)});
+    std::vector<Menuepunkt> punkte = {std::move(wahl)};
+    // The four tables of the year: pages 54 to 57, and 58, 59, 60, 62 for 1998.
+    const std::string jj = jahr == 1997 ? "7" : "8";
+    for (int tabelle = 1; tabelle <= 4; ++tabelle) {
+        const int nummer = jahr == 1997 ? 53 + tabelle : (tabelle == 4 ? 62 : 57 + tabelle);
+        punkte.push_back(seite("MTarife" + jj + std::to_string(tabelle),
+                               j + "_" + std::to_string(tabelle) + "er Tarife editieren ...",
+                               nummer));
+    }
+    punkte.push_back(std::move(struktur));
+    punkte.push_back(std::move(loeschen));
+    return menue(jahr == 1997 ? "M97" : "M98", jahr == 1997 ? "97" : "98", std::move(punkte));
+}
+
+Menuepunkt textmenue() {
+    std::vector<Menuepunkt> punkte;
+    for (const Textmenue& m : textmenues()) {
+        // "Namen eingeben" is page 69, which shows the editor on the names.
+        if (std::string(m.name) == "MNamen")
+            punkte.push_back(seite(m.name, m.text, 69));
+        else
+            punkte.push_back(eintrag(m.name, m.text, Menueaktion::texte, m.textvon));
+    }
+    return menue("MTexte", "Txt", std::move(punkte));
 }
 
 std::vector<Menuepunkt> tabellenthemen() {
@@ -124,14 +151,26 @@ std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
     // The 1998 entries wait until a set of 1998 has been filled.
     const bool jahr1998 = !s.ist1997() || s.ordner.laenge("L1998I.1") >= 1;
     return {
-        menue("MDatei", "Wie", {eintrag("MBeenden", "Beenden", Menueaktion::beenden, 0)}),
+        menue("MDatei", "Wie",
+              {
+                  seite("Mpasswort", "Passwort ...", 2),
+                  eintrag("MFarben", "Farbe ...", Menueaktion::form, 14),
+                  seite("MVoreinstellungen", "Voreinstellungen ...", 61),
+                  seite("MSozVersDaten", "Sozialversicherungsdaten ...", 63),
+                  eintrag("M_KV", "KV_Beitragssätze ...", Menueaktion::kv, 0),
+                  seite("MZVKDaten", "ZVK ...", 65),
+                  seite("MWeihnachten", "Weihnachtsgeld-Quote ...", 64),
+                  eintrag("MBeenden", "Beenden", Menueaktion::beenden, 0),
+              }),
         jahresmenue(s, 1997, jahr1998),
         jahresmenue(s, 1998, jahr1998),
+        textmenue(),
         seite("MTeilzeit", "Tz", 35),
         seite("MLohnsteuer", "LSt", 6),
         seite("MSozialversicherung", "Soz", 29),
         seite("MZusatzversicherung", "ZVK", 8),
         menue("MTabelle", "GTab", tabellenthemen()),
+        seite("MAmt", "Amt", 4),
         menue("MInfo", "Info", infothemen()),
         [] {
             Menuepunkt p = menue(
@@ -188,6 +227,20 @@ void menueklick(Menueziel& z, const std::string& name) {
         break;
     case Menueaktion::zeilenhilfe:
         zeilenhilfezeigen(z);
+        break;
+    case Menueaktion::kv:
+        z.tablett.formwunsch = "KV";
+        break;
+    case Menueaktion::texte:
+        for (const Textmenue& m : textmenues())
+            if (p->name == m.name) {
+                z.tablett.textvon = m.textvon;
+                z.tablett.textbis = m.textbis;
+            }
+        z.tablett.formwunsch = "Textedit";
+        break;
+    case Menueaktion::form:
+        z.formwunsch = "Form" + std::to_string(p->zahl);
         break;
     case Menueaktion::keine:
         break;

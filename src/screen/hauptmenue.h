@@ -20,6 +20,9 @@ enum class Menueaktion {
     personalloeschen, // deletes the persons of year `zahl`
     beenden,          // MBeenden
     zeilenhilfe,      // MHilfe: the help of the current row
+    form,             // shows a form of its own; the entry's name says which (MFarben: Form14)
+    kv,               // shows the form KV of the health-insurance rates
+    texte,            // shows Textedit on the range of the entry (the menu "Txt")
 };
 
 struct Menuepunkt {
@@ -49,6 +52,8 @@ struct Menueziel {
     Tablett& tablett;
     Hilfe* hilfe = nullptr;
     bool beendet = false;
+    // The form a click asks the window to show, e.g. "Form14".
+    std::optional<std::string> formwunsch = std::nullopt;
 };
 
 // The click on the entry `name`; an unknown name does nothing.

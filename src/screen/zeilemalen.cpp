@@ -50,6 +50,10 @@ void Form1::schaltermalen(Schalterart art) {
 }
 
 void Form1::farbenanwenden() {
+    if (voreinstellung.aktiv) {
+        voreinstellfarben(bild);
+        return;
+    }
     for (int zeile = 0; zeile <= 45; ++zeile) {
         Bildzeile& z = bild.zeilen[static_cast<std::size_t>(zeile)];
         z.farbe = s.dim.zeilenfarbe[zeile];

@@ -136,6 +136,13 @@ void voeschreiben(Sitzung& s) {
 }
 
 void aktualisieren(Sitzung& s) {
+    vorgabenableiten(s);
+    // Person 0 is no person: the start treats it as person 1.
+    const std::int32_t person = ganzzahl(s, 15);
+    s.aktuelleperson = pf::int16(person < 1 ? 1 : person);
+}
+
+void vorgabenableiten(Sitzung& s) {
     Einstellungswerte& e = s.einstellungen;
     e.pvsatz = halbsatz(s, 1, 1.5);
     e.rvsatz = halbsatz(s, 2, 19.5);
@@ -164,9 +171,6 @@ void aktualisieren(Sitzung& s) {
     for (int i = 0; i <= 3; ++i)
         e.zuwendungsquote[i] = s.voreinstellung[30 + i];
     e.steuerrecht1998 = ganzzahl(s, steuerrecht1998element) == 1;
-    // Person 0 is no person: the start treats it as person 1.
-    const std::int32_t person = ganzzahl(s, 15);
-    s.aktuelleperson = pf::int16(person < 1 ? 1 : person);
 }
 
 int textfarbe(int zeilenfarbe) {

@@ -25,6 +25,9 @@ inline constexpr int steuerrecht1998element = 34;
 
 // Turns the stored steps of the settings into rates, ceilings and months; restores the person.
 void aktualisieren(Sitzung& s);
+// The rates, ceilings, months and factors alone, as the settings pages derive them after a
+// store: the current person stays where it is.
+void vorgabenableiten(Sitzung& s);
 
 // A dark row colour (0 to 6, 8, 9, 12, 13) gets white text (15), all others black (0).
 [[nodiscard]] int textfarbe(int zeilenfarbe);

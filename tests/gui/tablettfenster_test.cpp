@@ -188,8 +188,8 @@ TEST(TablettFenster, MenueleisteInIhrerReihenfolge) {
     QStringList texte;
     for (QAction* a : w.f->menuBar()->actions())
         texte << a->text();
-    EXPECT_EQ(texte,
-              (QStringList{"Wie", "97", "98", "Tz", "LSt", "Soz", "ZVK", "GTab", "Info", "?"}));
+    EXPECT_EQ(texte, (QStringList{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz", "ZVK", "GTab",
+                                  "Amt", "Info", "?"}));
     QAction* m1997 = w.f->menuBar()->findChild<QAction*>(QStringLiteral("M1997"));
     ASSERT_NE(m1997, nullptr);
     EXPECT_TRUE(m1997->isChecked());

@@ -31,35 +31,82 @@ struct Menueumgebung {
 TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     test::Umgebung u;
     const std::vector<Menuepunkt> leiste = hauptmenue(u.s);
-    EXPECT_EQ(texte(leiste), (std::vector<std::string>{"Wie", "97", "98", "Tz", "LSt", "Soz", "ZVK",
-                                                       "GTab", "Info", "?"}));
-    EXPECT_EQ(leiste[0].punkte[0].name, "MBeenden");
+    EXPECT_EQ(texte(leiste), (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz",
+                                                       "ZVK", "GTab", "Amt", "Info", "?"}));
+    EXPECT_EQ(texte(leiste[0].punkte),
+              (std::vector<std::string>{"Passwort ...", "Farbe ...", "Voreinstellungen ...",
+                                        "Sozialversicherungsdaten ...", "KV_Beitragssätze ...",
+                                        "ZVK ...", "Weihnachtsgeld-Quote ...", "Beenden"}));
+    EXPECT_EQ(leiste[0].punkte.back().name, "MBeenden");
     EXPECT_EQ(
         texte(leiste[1].punkte),
-        (std::vector<std::string>{"Berechnungen für 1997", "1997er Personaldaten löschen ..."}));
+        (std::vector<std::string>{"Berechnungen für 1997", "1997_1er Tarife editieren ...",
+                                  "1997_2er Tarife editieren ...", "1997_3er Tarife editieren ...",
+                                  "1997_4er Tarife editieren ...", "Tarifstruktur 1997 festlegen",
+                                  "1997er Personaldaten löschen ..."}));
     EXPECT_EQ(
         texte(leiste[2].punkte),
-        (std::vector<std::string>{"Berechnungen für 1998", "1998er Personaldaten löschen ..."}));
-    EXPECT_EQ(leiste[3].name, "MTeilzeit");
-    EXPECT_EQ(leiste[3].zahl, 35);
-    EXPECT_EQ(leiste[4].zahl, 6);
-    EXPECT_EQ(leiste[5].zahl, 29);
-    EXPECT_EQ(leiste[6].zahl, 8);
-    const Menuepunkt& gtab = leiste[7];
+        (std::vector<std::string>{"Berechnungen für 1998", "1998_1er Tarife editieren ...",
+                                  "1998_2er Tarife editieren ...", "1998_3er Tarife editieren ...",
+                                  "1998_4er Tarife editieren ...", "Tarifstruktur 1998 festlegen",
+                                  "1998er Personaldaten löschen ..."}));
+    EXPECT_EQ(leiste[4].name, "MTeilzeit");
+    EXPECT_EQ(leiste[4].zahl, 35);
+    EXPECT_EQ(leiste[5].zahl, 6);
+    EXPECT_EQ(leiste[6].zahl, 29);
+    EXPECT_EQ(leiste[7].zahl, 8);
+    const Menuepunkt& gtab = leiste[8];
     ASSERT_EQ(gtab.punkte.size(), 16u);
     EXPECT_EQ(gtab.punkte[0].text, "Beamte West ab 1/97");
     EXPECT_EQ(gtab.punkte[4].zahl, 70011);
     EXPECT_EQ(gtab.punkte[10].text, "Angestellte Ost B/L ab  1/97");
     EXPECT_EQ(gtab.punkte[15].zahl, 70259);
-    const Menuepunkt& info = leiste[8];
+    EXPECT_EQ(leiste[9].name, "MAmt");
+    EXPECT_EQ(leiste[9].zahl, 4);
+    const Menuepunkt& info = leiste[10];
     EXPECT_EQ(texte(info.punkte),
               (std::vector<std::string>{"Überreicht durch", "Über LONVIR97",
                                         "In diesem Update ist neu:", "Update", "Beihilfe",
                                         "Vorschläge", "Dankeschön", "Geschenke"}));
-    EXPECT_EQ(leiste[9].name, "MHilfe");
-    EXPECT_EQ(leiste[9].aktion, Menueaktion::zeilenhilfe);
-    EXPECT_EQ(leiste[9].punkte[0].zahl, 20000);
-    EXPECT_EQ(leiste[9].punkte[1].zahl, 1000);
+    EXPECT_EQ(leiste[11].name, "MHilfe");
+    EXPECT_EQ(leiste[11].aktion, Menueaktion::zeilenhilfe);
+    EXPECT_EQ(leiste[11].punkte[0].zahl, 20000);
+    EXPECT_EQ(leiste[11].punkte[1].zahl, 1000);
+}
+
+TEST(Hauptmenue, TarifeintraegeOeffnenDieSeiten54Bis57Und58Bis60Und62) {
+    test::Umgebung u;
+    EXPECT_EQ(menuepunkt(u.s, "MTarife71")->zahl, 54);
+    EXPECT_EQ(menuepunkt(u.s, "MTarife74")->zahl, 57);
+    EXPECT_EQ(menuepunkt(u.s, "MTarife81")->zahl, 58);
+    EXPECT_EQ(menuepunkt(u.s, "MTarife83")->zahl, 60);
+    EXPECT_EQ(menuepunkt(u.s, "MTarife84")->zahl, 62);
+    EXPECT_EQ(menuepunkt(u.s, "M_KV")->text, "KV_Beitragssätze ...");
+}
+
+TEST(Hauptmenue, TxtZeigtTexteditAufDemBereichDesEintrags) {
+    Menueumgebung m;
+    const Menuepunkt txt = *menuepunkt(m.u.s, "MTexte");
+    ASSERT_EQ(txt.punkte.size(), 21u);
+    EXPECT_EQ(txt.punkte.front().text, "Namen eingeben");
+    menueklick(m.ziel, "MTBahn");
+    EXPECT_EQ(m.tablett.formwunsch, std::optional<std::string>("Textedit"));
+    EXPECT_EQ(m.tablett.textvon, 2521);
+    EXPECT_EQ(m.tablett.textbis, 2670);
+    m.tablett.formwunsch.reset();
+    menueklick(m.ziel, "MNamen");
+    EXPECT_EQ(m.u.s.Tablettseite, 69);
+    EXPECT_EQ(m.tablett.formwunsch, std::optional<std::string>("Textedit"));
+    EXPECT_EQ(m.tablett.textvon, 5001);
+    EXPECT_EQ(m.tablett.textbis, 6000);
+    menueklick(m.ziel, "MTarife82");
+    EXPECT_EQ(m.u.s.Tablettseite, 59);
+    EXPECT_EQ(m.tablett.formwunsch, std::optional<std::string>("Tarife"));
+    menueklick(m.ziel, "M_KV");
+    EXPECT_EQ(m.tablett.formwunsch, std::optional<std::string>("KV"));
+    menueklick(m.ziel, "MAmt");
+    EXPECT_EQ(m.u.s.Tablettseite, 4);
+    EXPECT_TRUE(m.tablett.Combo[0].sichtbar);
 }
 
 TEST(Hauptmenue, JahreseintraegeNachDemGeoeffnetenSatz) {
