@@ -43,16 +43,6 @@ Currency aufgerundet(Currency v) {
     return v.abgeschnitten() + (hundertstelUebrig(v) ? dm(1) : Currency{});
 }
 
-// A row of the class table: splitting factor and the allowances in DM.
-struct Klassenzeile {
-    std::int16_t kztab;
-    std::int64_t arbeitnehmerpauschbetrag;
-    std::int64_t sonderausgabenpauschbetrag;
-    std::int64_t haushaltsfreibetrag;
-    std::int64_t kinderfreibetrag; // per child allowance counted in zkf
-    std::int64_t sonstiges;
-};
-
 Feld<Klassenzeile, 1, 6> klassentabelle() {
     Feld<Klassenzeile, 1, 6> k;
     k[1] = {1, 2000, 108, 0, 6912, 0};
@@ -130,8 +120,7 @@ void tabellenstufe(Lohnsteuerlauf& l) {
 }
 
 void klassenfreibetraege(Lohnsteuerlauf& l) {
-    static const Feld<Klassenzeile, 1, 6> tabelle = klassentabelle();
-    const Klassenzeile& k = tabelle[l.stkl];
+    const Klassenzeile& k = klassenzeile(l.stkl);
     l.kztab = k.kztab;
     l.ztabfb = dm(k.arbeitnehmerpauschbetrag + k.sonderausgabenpauschbetrag +
                   k.haushaltsfreibetrag + k.sonstiges);
@@ -139,6 +128,11 @@ void klassenfreibetraege(Lohnsteuerlauf& l) {
 }
 
 } // namespace
+
+const Klassenzeile& klassenzeile(std::int16_t stkl) {
+    static const Feld<Klassenzeile, 1, 6> tabelle = klassentabelle();
+    return tabelle[stkl];
+}
 
 Currency anteilab(Currency w, std::int16_t lzz) {
     Anteil a{};

@@ -53,6 +53,18 @@ struct Lohnsteuerlauf {
     Currency grenze;        // threshold of the surcharge
 };
 
+// A row of the class table: splitting factor and the allowances of a year, DM.
+struct Klassenzeile {
+    std::int16_t kztab;
+    std::int64_t arbeitnehmerpauschbetrag;
+    std::int64_t sonderausgabenpauschbetrag;
+    std::int64_t haushaltsfreibetrag;
+    std::int64_t kinderfreibetrag; // per child allowance counted in zkf
+    std::int64_t sonstiges;
+};
+// The row of tax class `stkl` (1 to 6); another class is run-time error 9.
+[[nodiscard]] const Klassenzeile& klassenzeile(std::int16_t stkl);
+
 // One run: reads the inputs, sets outputs and working values.
 void lohnsteuer(Lohnsteuerlauf& l);
 

@@ -204,6 +204,13 @@ void Form1Fenster::kopfAufbauen(QWidget* kopf) {
     command1text_->setAlignment(Qt::AlignCenter);
     command1text_->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(command1_, &QPushButton::clicked, this, [this] { emit bemerkungGeklickt(); });
+    jahrwort_ = new QLabel(QStringLiteral("JAHR"), kopf);
+    jahrwort_->setObjectName(QStringLiteral("Jahrwort"));
+    jahrwort_->setAlignment(Qt::AlignCenter);
+    jahrwort_->setCursor(Qt::PointingHandCursor);
+    jahrwort_->setToolTip(QStringLiteral("Jahresübersicht"));
+    jahrwort_->setStyleSheet(QStringLiteral("color: #000080; font-weight: bold;"));
+    jahrwort_->installEventFilter(this);
     command6_ = new QPushButton(QStringLiteral("Suchen"), kopf);
     command6_->setObjectName(QStringLiteral("Command6"));
     command6_->setFocusPolicy(Qt::NoFocus);
@@ -282,6 +289,10 @@ void Form1Fenster::ausfuehren(const std::function<void()>& handler) {
 bool Form1Fenster::eventFilter(QObject* objekt, QEvent* ereignis) {
     if (darstellend_ || laeuft_)
         return QMainWindow::eventFilter(objekt, ereignis);
+    if (objekt == jahrwort_ && ereignis->type() == QEvent::MouseButtonRelease) {
+        emit jahrGeklickt();
+        return true;
+    }
     for (int i = 0; i < 3; ++i)
         if (objekt == schichtpanels_[static_cast<std::size_t>(i)] &&
             ereignis->type() == QEvent::MouseButtonRelease) {

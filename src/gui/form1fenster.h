@@ -49,6 +49,8 @@ signals:
     // The transfer buttons and the remark card belong to the navigation of the layers.
     void uebertragGeklickt(int von, int nach);
     void bemerkungGeklickt();
+    // The word JAHR in the head opens the annual overview, as the menu entry Jahr does.
+    void jahrGeklickt();
     // Command6 opens the name search, Command7 the reform page.
     void suchenGeklickt();
     void reformGeklickt();
@@ -99,6 +101,7 @@ private:
     QLineEdit* bdaBeginn_ = nullptr;
     QLabel* picture1_ = nullptr;
     QLabel* monatstitel_ = nullptr;
+    QLabel* jahrwort_ = nullptr;
     std::array<QLabel*, 3> schichtpanels_{};
     std::array<QPushButton*, 4> uebertragknoepfe_{};
     QPushButton* command1_ = nullptr;

@@ -186,7 +186,8 @@ void Form1Fenster::kopfAusrechnen(double breite, double h) {
     command1text_->setGeometry(command1_->rect().adjusted(2, 1, -2, -1));
     setzen(command6_, 0.615, 0.665, QStringLiteral("Suchen"), false);
     setzen(command7_, 0.67, 0.72, QStringLiteral("Reform"), false);
-    setzen(monatstitel_, 0.725, 0.995, QStringLiteral("JANUAR 1997"), true);
+    setzen(monatstitel_, 0.725, 0.93, QStringLiteral("JANUAR 1997"), true);
+    setzen(jahrwort_, 0.935, 0.995, QStringLiteral("JAHR"), true);
 }
 
 void Form1Fenster::resizeEvent(QResizeEvent* ereignis) {

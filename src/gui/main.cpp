@@ -6,6 +6,8 @@
 #include "gui/qtdialoge.h"
 #include "gui/startform.h"
 #include "gui/tablettanbindung.h"
+#include "gui/uebersichtanbindung.h"
+#include "gui/vorschau.h"
 #include "start/start.h"
 
 #include <QApplication>
@@ -53,7 +55,8 @@ Aufruf aufrufLesen(const QApplication& app) {
                                    QStringLiteral("Menüpunkt für das Bild, z. B. M_KV"),
                                    QStringLiteral("NAME"));
     const QCommandLineOption form(QStringLiteral("form"),
-                                  QStringLiteral("Form für das Bild: Form14 oder Password"),
+                                  QStringLiteral("Form für das Bild: Form14, Password, Form3 "
+                                                 "oder Form2"),
                                   QStringLiteral("NAME"));
     const QCommandLineOption markiert(
         QStringLiteral("voreinstellung"),
@@ -108,6 +111,16 @@ void fotografieren(lonvir::gui::Form1Fenster& fenster, lonvir::gui::Tablettanbin
             passwort->show();
             QApplication::processEvents();
             QApplication::exit(passwort->grab().save(a.bildschirmfoto) ? 0 : 4);
+            return;
+        }
+        if (a.form == QStringLiteral("Form3") || a.form == QStringLiteral("Form2")) {
+            // The annual overview of the main screen's person, or the totals of all staff.
+            tablett.formzeigen(a.form.toStdString());
+            auto* uebersicht = fenster.findChild<QWidget*>(a.form);
+            if (a.groesse.isValid())
+                uebersicht->resize(a.groesse);
+            QApplication::processEvents();
+            QApplication::exit(uebersicht->grab().save(a.bildschirmfoto) ? 0 : 4);
             return;
         }
         if (a.form == QStringLiteral("Form14"))
@@ -169,6 +182,8 @@ int main(int argc, char** argv) {
         lonvir::gui::Form1Fenster fenster(s, dialoge, &hilfe);
         dialoge.elternSetzen(&fenster);
         lonvir::gui::Tablettanbindung tablett(fenster, s, &hilfe);
+        lonvir::gui::Uebersichtanbindung uebersichten(fenster, tablett, s,
+                                                      lonvir::gui::vorschaudruck(&fenster));
         fenster.laden();
         tablett.menueaufbauen();
         start.close();

@@ -8,6 +8,7 @@
 #include "gui/tarifefenster.h"
 #include "gui/texteditfenster.h"
 #include "panels/namen.h"
+#include "panels/seiten.h"
 #include "panels/tarife.h"
 #include "screen/uebertragung.h"
 #include "screen/voreinstellmodus.h"
@@ -53,6 +54,8 @@ Tablettanbindung::Tablettanbindung(Form1Fenster& fenster, Sitzung& s, Hilfe* hil
     // Shown once the click on "Passwort ändern" is over, not from within its handler.
     t_.passwortzeigen = [this] { QTimer::singleShot(0, this, [this] { formzeigen("Password"); }); };
     connect(&f_, &Form1Fenster::bemerkungGeklickt, this, [this] { seiteoeffnen(23); });
+    connect(&f_, &Form1Fenster::jahrGeklickt, this, [this] { menueklick("MJahr"); });
+    t_.seiteanmelden(66, vkeseite);
     connect(&f_, &Form1Fenster::suchenGeklickt, this, [this] { seiteoeffnen(22); });
     connect(&f_, &Form1Fenster::reformGeklickt, this, [this] {
         // Before the law in force the page stays shut and the button says so.
@@ -133,6 +136,11 @@ void Tablettanbindung::darstellen() {
         ansicht_->raise();
     if (QWidget* p2 = f_.centralWidget()->findChild<QWidget*>(QStringLiteral("Panel3D2")))
         p2->setVisible(lage_.panel3d2sichtbar);
+    if (t_.formwunsch == std::optional<std::string>("Form2")) {
+        // The totals chosen on page 66 open once the click is over.
+        t_.formwunsch.reset();
+        QTimer::singleShot(0, this, [this] { formzeigen("Form2"); });
+    }
     if (t_.formwunsch) {
         // The wage-tax table viewer comes with its own window; until then nothing opens.
         const std::string name = *t_.formwunsch;
@@ -190,6 +198,11 @@ void Tablettanbindung::uebertragknopf(int von, int nach) {
 }
 
 void Tablettanbindung::formzeigen(const std::string& name) {
+    if (name == "Form2" || name == "Form3") {
+        if (uebersichtzeigen)
+            uebersichtzeigen(name);
+        return;
+    }
     if (name == "Form14") {
         auto* farben = new FarbenFenster(f_);
         connect(farben, &FarbenFenster::entladen, farben, &QObject::deleteLater);

@@ -36,6 +36,8 @@ public:
     void formzeigen(const std::string& name);
     // A transfer button: between the layers, or in the preset mode transfer and cancel.
     void uebertragknopf(int von, int nach);
+    // Shows the annual overview "Form3" or the totals "Form2" (their own unit).
+    std::function<void(const std::string&)> uebersichtzeigen;
 
 signals:
     // A form of its own (tariffs, rates, texts) has been shown.

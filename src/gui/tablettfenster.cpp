@@ -98,6 +98,8 @@ TablettFenster::TablettFenster(Tablett& modell,
             [this] { ereignis_([this] { t_.command2_Click(); }); });
     connect(knoepfe_[2], &QPushButton::clicked, this,
             [this] { ereignis_([this] { t_.Command3_Click(); }); });
+    connect(knoepfe_[3], &QPushButton::clicked, this,
+            [this] { ereignis_([this] { t_.Command4_Click(); }); });
     for (std::size_t i = 0; i < 3; ++i) {
         rollbalken_[i] = new QScrollBar(Qt::Horizontal, this);
         rollbalken_[i]->setObjectName(QStringLiteral("HScroll%1").arg(i + 1));

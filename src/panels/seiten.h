@@ -23,6 +23,15 @@ void teilzeitseite(Tablett& t);
 void jahreswertespeichern(Tablett& t);
 void jahreswerteseite(Tablett& t);
 
+// Page 66: the administrative cost refund; its explanation (Command1), the cost-centre list
+// of Combo(0) (Command3) and the totals of all staff (Command4). Combo(0) at position 0
+// stands for all staff; the panel then asks the face for Form2. The face that can show Form2
+// registers the page: t.seiteanmelden(66, vkeseite).
+void vkeseite(Tablett& t);
+void vkeerlaeuterung(Tablett& t);
+void kostenstellenliste(Tablett& t);
+void gesamtauswertung(Tablett& t);
+
 namespace seitenlage {
 constexpr int anfang = 150;  // top of the first row
 constexpr int abstand = 240; // pitch of the rows of the explaining pages

@@ -158,7 +158,8 @@ public:
     std::int16_t Schirmsperre = 0; // -1 while a batch pass over the records runs
     bool wirdgeoeffnet = false;    // set while tablettoeffnen runs
     bool gespeichert = false;      // the store mark of the form
-    // A form the panel asks the face to show, e.g. "LStrTab" after a click on page 6.
+    // A form the panel asks the face to show, e.g. "LStrTab" after a click on page 6, "Form2"
+    // from page 66 with the choice of Combo(0), "Form3" from the menu.
     std::optional<std::string> formwunsch;
     // The levy per pay row of page 8 for civil servants, Pfennig.
     Feld<std::int32_t, 0, 27> umlagewert;
@@ -197,6 +198,7 @@ public:
     void Command1_Click();
     void command2_Click();
     void Command3_Click();
+    void Command4_Click();
     void combo_GotFocus(int index);
     // A pick in Combo(index): its position is already in the model.
     void combo_Click(int index);

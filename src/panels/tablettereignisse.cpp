@@ -64,6 +64,9 @@ void Tablett::Command1_Click() {
     case 23:
         jahreswertespeichern(*this);
         break;
+    case 66:
+        vkeerlaeuterung(*this);
+        break;
     case 44:
         tarifstrukturspeichern(*this);
         break;
@@ -92,6 +95,11 @@ void Tablett::combo_Click(int index) {
     if (s.Tablettseite == 4 && index == 0 && Comboaktiv == 1) {
         Comboaktiv = 0;
         kostenstellewaehlen(*this);
+    }
+    // Page 66: the chosen cost centre's totals; position 0 is all staff.
+    if (s.Tablettseite == 66 && index == 0 && Combo[0].sichtbar) {
+        schliessen();
+        formwunsch = "Form2";
     }
 }
 
@@ -147,6 +155,10 @@ void Tablett::Command3_Click() {
         return;
     }
     const int seite = s.Tablettseite;
+    if (seite == 66) {
+        kostenstellenliste(*this);
+        return;
+    }
     const auto kontext = hilfekontext(seite, s.personalart());
     if (kontext)
         Hilfeseite = *kontext;
@@ -154,6 +166,11 @@ void Tablett::Command3_Click() {
         return;
     if (hilfe)
         hilfe->zeigen(Hilfeseite);
+}
+
+void Tablett::Command4_Click() {
+    if (s.Tablettseite == 66)
+        gesamtauswertung(*this);
 }
 
 void Tablett::combo_GotFocus(int index) {

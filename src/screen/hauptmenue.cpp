@@ -170,7 +170,9 @@ std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
         seite("MSozialversicherung", "Soz", 29),
         seite("MZusatzversicherung", "ZVK", 8),
         menue("MTabelle", "GTab", tabellenthemen()),
+        eintrag("MJahr", "Jahr", Menueaktion::form, 3),
         seite("MAmt", "Amt", 4),
+        seite("MVKE", "VKE", 66),
         menue("MInfo", "Info", infothemen()),
         [] {
             Menuepunkt p = menue(
@@ -240,6 +242,9 @@ void menueklick(Menueziel& z, const std::string& name) {
         z.tablett.formwunsch = "Textedit";
         break;
     case Menueaktion::form:
+        // MJahr: page 39 marks the annual overview, shown with the current person.
+        if (p->name == "MJahr")
+            z.s.Tablettseite = 39;
         z.formwunsch = "Form" + std::to_string(p->zahl);
         break;
     case Menueaktion::keine:

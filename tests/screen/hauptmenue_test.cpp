@@ -1,5 +1,6 @@
 // The menu bar of Form1: order, captions, the year entries, and what the clicks do.
 #include "formhilfe.h"
+#include "panels/seiten.h"
 #include "screen/hauptmenue.h"
 #include "start/start.h"
 #include "testhilfe.h"
@@ -31,8 +32,9 @@ struct Menueumgebung {
 TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     test::Umgebung u;
     const std::vector<Menuepunkt> leiste = hauptmenue(u.s);
-    EXPECT_EQ(texte(leiste), (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz",
-                                                       "ZVK", "GTab", "Amt", "Info", "?"}));
+    EXPECT_EQ(texte(leiste),
+              (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz", "ZVK", "GTab",
+                                        "Jahr", "Amt", "VKE", "Info", "?"}));
     EXPECT_EQ(texte(leiste[0].punkte),
               (std::vector<std::string>{"Passwort ...", "Farbe ...", "Voreinstellungen ...",
                                         "Sozialversicherungsdaten ...", "KV_Beitragssätze ...",
@@ -61,17 +63,30 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     EXPECT_EQ(gtab.punkte[4].zahl, 70011);
     EXPECT_EQ(gtab.punkte[10].text, "Angestellte Ost B/L ab  1/97");
     EXPECT_EQ(gtab.punkte[15].zahl, 70259);
-    EXPECT_EQ(leiste[9].name, "MAmt");
-    EXPECT_EQ(leiste[9].zahl, 4);
-    const Menuepunkt& info = leiste[10];
+    EXPECT_EQ(leiste[10].name, "MAmt");
+    EXPECT_EQ(leiste[10].zahl, 4);
+    const Menuepunkt& info = leiste[12];
     EXPECT_EQ(texte(info.punkte),
               (std::vector<std::string>{"Überreicht durch", "Über LONVIR97",
                                         "In diesem Update ist neu:", "Update", "Beihilfe",
                                         "Vorschläge", "Dankeschön", "Geschenke"}));
-    EXPECT_EQ(leiste[11].name, "MHilfe");
-    EXPECT_EQ(leiste[11].aktion, Menueaktion::zeilenhilfe);
-    EXPECT_EQ(leiste[11].punkte[0].zahl, 20000);
-    EXPECT_EQ(leiste[11].punkte[1].zahl, 1000);
+    EXPECT_EQ(leiste[13].name, "MHilfe");
+    EXPECT_EQ(leiste[13].aktion, Menueaktion::zeilenhilfe);
+    EXPECT_EQ(leiste[13].punkte[0].zahl, 20000);
+    EXPECT_EQ(leiste[13].punkte[1].zahl, 1000);
+}
+
+TEST(Hauptmenue, JahrZeigtDieJahresuebersichtUndVkeOeffnetSeite66) {
+    Menueumgebung m;
+    EXPECT_EQ(menuepunkt(m.u.s, "MVKE")->zahl, 66);
+    menueklick(m.ziel, "MJahr");
+    EXPECT_EQ(m.u.s.Tablettseite, 39);
+    EXPECT_EQ(m.ziel.formwunsch, std::optional<std::string>("Form3"));
+    m.tablett.seiteanmelden(66, vkeseite);
+    menueklick(m.ziel, "MVKE");
+    EXPECT_EQ(m.u.s.Tablettseite, 66);
+    EXPECT_TRUE(m.tablett.sichtbar);
+    EXPECT_EQ(m.tablett.Command4.text, "Gesamtauswertungen auswählen");
 }
 
 TEST(Hauptmenue, TarifeintraegeOeffnenDieSeiten54Bis57Und58Bis60Und62) {
