@@ -4,6 +4,7 @@
 #include "cli/json.h"
 #include "cli/optionen.h"
 #include "core/dialoge.h"
+#include "engine/steuerrecht.h"
 #include "start/sitzung.h"
 
 #include <filesystem>
@@ -56,6 +57,8 @@ int jahreswechsel(Kontext& k, std::ostream& aus);
 // A count of child allowances, 0 to 7 in steps of 0.5, written "1,5" or "1.5"; missing is 0
 // unless pflicht is set. Anything else is a usage error.
 [[nodiscard]] Currency halbeSchritte(const Optionen& o, const std::string& name, bool pflicht);
+// --recht 1997|1998: the tax law of a run; the law of 1997 when the option is absent.
+[[nodiscard]] Steuerrecht rechtAus(const Optionen& o);
 // Needs no session: compiles data/ into a folder.
 int installieren(const Optionen& o, std::ostream& aus);
 // The compiled installation of the build, which seeds a new working folder.

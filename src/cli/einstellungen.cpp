@@ -2,7 +2,9 @@
 // confirmed as the window confirms it.
 #include "start/einstellungen.h"
 #include "cli/befehle.h"
+
 #include "engine/monatladen.h"
+#include "engine/steuerrechtwahl.h"
 #include "panels/vorgabeseiten.h"
 #include "start/start.h"
 
@@ -108,6 +110,8 @@ std::vector<Abgeleitet> abgeleitet(const Sitzung& s) {
         {"zuwendungsquote1", e.zuwendungsquote[1].text()},
         {"zuwendungsquote2", e.zuwendungsquote[2].text()},
         {"zuwendungsquote3", e.zuwendungsquote[3].text()},
+        // "Steuerrecht 1998 anwenden", element 34 of the record; it acts in 1998 only.
+        {"steuerrecht1998", e.steuerrecht1998 ? "1" : "0"},
     };
 }
 
@@ -154,6 +158,7 @@ void alsText(Kontext& k, std::ostream& aus) {
     aus << "Abgeleitet:\n";
     for (const Abgeleitet& a : abgeleitet(s))
         aus << "  " << a.name << " = " << a.wert << "\n";
+    aus << steuerrechtzeile(s) << "\n";
 }
 
 // The person and month the window stands at after the start, unless the options name them.

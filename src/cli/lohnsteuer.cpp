@@ -23,6 +23,7 @@ Lohnsteuerlauf eingaben(const Optionen& o) {
     l.kirche = o.schalter("kirche") ? 1 : 0;
     l.vbez = Currency::ganz(o.zahl("vbez", 0, 2147483647L, 0));
     l.lzzfreib = Currency::ganz(o.zahl("lzzfreib", 0, 2147483647L, 0));
+    l.recht = rechtAus(o);
     return l;
 }
 
@@ -53,6 +54,15 @@ std::vector<std::pair<const char*, Currency>> werte(const Lohnsteuerlauf& l) {
 
 } // namespace
 
+Steuerrecht rechtAus(const Optionen& o) {
+    const std::string w = o.wert("recht").value_or("1997");
+    if (w == "1997")
+        return Steuerrecht::recht1997;
+    if (w == "1998")
+        return Steuerrecht::recht1998;
+    throw Aufruffehler("--recht muss 1997 oder 1998 sein, nicht \"" + w + "\".");
+}
+
 Currency halbeSchritte(const Optionen& o, const std::string& name, bool pflicht) {
     if (!o.wert(name)) {
         if (pflicht)
@@ -82,8 +92,8 @@ Currency halbeSchritte(const Optionen& o, const std::string& name, bool pflicht)
 }
 
 int lohnsteuer(Kontext& k, std::ostream& aus) {
-    k.optionen.nurErlaubt(
-        {"re4", "lzz", "stkl", "zkf", "alter64", "besonders", "kirche", "vbez", "lzzfreib"});
+    k.optionen.nurErlaubt({"re4", "lzz", "stkl", "zkf", "alter64", "besonders", "kirche", "vbez",
+                           "lzzfreib", "recht"});
     if (k.optionen.wert("kirche"))
         throw Aufruffehler("--kirche steht beim Befehl lohnsteuer allein, ohne Wert.");
     Lohnsteuerlauf l = eingaben(k.optionen);
@@ -93,6 +103,7 @@ int lohnsteuer(Kontext& k, std::ostream& aus) {
         j.objektAnfang();
         for (const auto& [name, wert] : werte(l))
             j.roh(name, name == std::string("kztab") ? std::to_string(l.kztab) : wert.text());
+        j.zahl("recht", static_cast<std::int16_t>(l.recht));
         k.meldungenAnhaengen(j);
         aus << j.objektEnde().ergebnis() << "\n";
         return 0;
@@ -100,6 +111,7 @@ int lohnsteuer(Kontext& k, std::ostream& aus) {
     for (const auto& [name, wert] : werte(l))
         aus << std::left << std::setw(12) << name
             << (name == std::string("kztab") ? std::to_string(l.kztab) : wert.text()) << "\n";
+    aus << std::left << std::setw(12) << "recht" << steuerrechtjahr(l.recht) << "\n";
     return 0;
 }
 

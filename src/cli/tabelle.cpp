@@ -47,6 +47,7 @@ Tabellenauswahl auswahlAus(const Optionen& o, bool mitStufe = true) {
     a.besonderetabelle = o.schalter("beamte") ? 1 : 0;
     a.altersentlastung = o.schalter("alter") ? 1 : 0;
     a.kirchensteuersatz = kirchensatzAus(o);
+    a.recht = rechtAus(o);
     return a;
 }
 
@@ -60,7 +61,9 @@ void alsJson(Kontext& k, const Lohnsteuertabelle& t, std::ostream& aus) {
         .roh("kinderfreibetraege", t.auswahl.kinderfreibetraege.text())
         .zahl("beamte", t.auswahl.besonderetabelle)
         .zahl("alter", t.auswahl.altersentlastung)
-        .roh("kirchensteuersatz", t.auswahl.kirchensteuersatz.text());
+        .roh("kirchensteuersatz", t.auswahl.kirchensteuersatz.text())
+        .zahl("recht", static_cast<std::int16_t>(t.auswahl.recht))
+        .text("titel", lstrtabTitelFuer(t.auswahl.recht));
     j.feldAnfang("klassen");
     for (int klasse = 1; klasse <= 6; ++klasse) {
         const Tabellenzeile& z = t.zeilen[klasse];
@@ -77,7 +80,7 @@ void alsJson(Kontext& k, const Lohnsteuertabelle& t, std::ostream& aus) {
 }
 
 void alsText(const Lohnsteuertabelle& t, std::ostream& aus) {
-    aus << lstrtabTitel << "\n";
+    aus << lstrtabTitelFuer(t.auswahl.recht) << "\n";
     const std::vector<std::string> texte = auswahltexte(t.auswahl);
     for (std::size_t i = 0; i < texte.size(); ++i)
         aus << (i > 0 ? ", " : "") << texte[i];
@@ -111,7 +114,7 @@ std::int64_t pfennigAus(const Optionen& o, const std::string& name) {
 // A range of bands, one line each, through the printer into text, PDF or CSV.
 int tabellenbereich(Kontext& k, std::ostream& aus) {
     k.optionen.nurErlaubt(
-        {"zeitraum", "kinder", "beamte", "alter", "kirche", "von", "bis", "format", "aus"});
+        {"zeitraum", "kinder", "beamte", "alter", "kirche", "recht", "von", "bis", "format", "aus"});
     Tabellenbereich b;
     b.auswahl = auswahlAus(k.optionen, false);
     b.von = scrollwertfuer(b.auswahl.lohnzeitraum, pfennigAus(k.optionen, "von"));
@@ -120,7 +123,7 @@ int tabellenbereich(Kontext& k, std::ostream& aus) {
         throw Aufruffehler(fehler);
     Druckauftrag auftrag;
     auftrag.bericht = "tabelle";
-    auftrag.titel = lstrtabTitel;
+    auftrag.titel = lstrtabTitelFuer(b.auswahl.recht);
     auftrag.drucken = [&b](Drucker& d) { tabellenbereichdrucken(b, d); };
     auftrag.csv = [&b] { return tabellenbereichcsv(b); };
     return druckausgabe(k, auftrag, aus);
@@ -131,7 +134,7 @@ int tabellenbereich(Kontext& k, std::ostream& aus) {
 int tabelle(Kontext& k, std::ostream& aus) {
     if (k.optionen.wert("von") || k.optionen.wert("bis"))
         return tabellenbereich(k, aus);
-    k.optionen.nurErlaubt({"zeitraum", "stufe", "kinder", "beamte", "alter", "kirche"});
+    k.optionen.nurErlaubt({"zeitraum", "stufe", "kinder", "beamte", "alter", "kirche", "recht"});
     Lohnsteuertabelle t;
     t.auswahl = auswahlAus(k.optionen);
     tabellefuellen(t);

@@ -173,8 +173,10 @@ void lohnsteuer(Lohnsteuerlauf& l) {
     }
     l.t = l.st;
 
-    l.grenze = dm(1332) * dm(l.kztab);
-    l.solzlzz = anteilab(solidaritaetszuschlag(l.t, l.grenze) * dm(100), l.lzz);
+    const Steuertarif& recht = steuertarif(l.recht);
+    l.grenze = dm(recht.freigrenze) * dm(l.kztab);
+    l.solzlzz =
+        anteilab(solidaritaetszuschlag(l.t, l.grenze, recht.zuschlagpromille) * dm(100), l.lzz);
     if (l.kirche > 0)
         l.bk = anteilab(l.t * dm(100), l.lzz);
 }

@@ -1,7 +1,9 @@
 // The wage-tax routine of 1997/1998: wage tax, solidarity surcharge and church-tax base of one
-// wage in one period, computed by steps of 54 DM of yearly wage as the printed tables do.
+// wage in one period, computed by steps of 54 DM of yearly wage as the printed tables do, with
+// the tariff and surcharge of the law the run names (the law of 1997 unless said otherwise).
 #pragma once
 
+#include "engine/steuerrecht.h"
 #include "start/lohnsteuerlauf.h"
 
 #include <cstdint>

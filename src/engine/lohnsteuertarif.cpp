@@ -1,5 +1,5 @@
 // The tariff of the wage-tax table: zve on the 54-DM grid, the basic tariff of section 32a EStG
-// in its three zones, and the tariff of classes 5 and 6.
+// in its three zones by the figures of the run's law, and the tariff of classes 5 and 6.
 #include "engine/lohnsteuertarif.h"
 
 #include "engine/lohnsteuerrechnen.h"
@@ -13,43 +13,45 @@ namespace {
 
 const Currency obergrenze56 = Currency::ganz(62856);
 
-// First zone, 12096 to 55727 DM: (86.63 y + 2590) y, y the ten-thousandth part above 12042.
-Currency ersteZone(Currency betrag) {
-    const Currency y = geteiltGerundet(betrag - dm(12042), 1, 10000);
-    const Currency r = produktViermalAbgeschnitten(y, 86.63);
-    return ((r + dm(2590)) * y).abgeschnitten();
+// First zone: (faktor1 y + konstante1) y, y the ten-thousandth part above abzug1; 1996/1997
+// (86.63 y + 2590) y above 12042, 1998 (91.19 y + 2590) y above 12312.
+Currency ersteZone(const Steuertarif& t, Currency betrag) {
+    const Currency y = geteiltGerundet(betrag - dm(t.abzug1), 1, 10000);
+    const Currency r = produktViermalAbgeschnitten(y, t.faktor1);
+    return ((r + dm(t.konstante1)) * y).abgeschnitten();
 }
 
-// Second zone, 55728 to 120041 DM: (151.94 y + 3346) y + 12949, y above 55674.
-Currency zweiteZone(Currency betrag) {
-    const Currency y = geteiltGerundet(betrag - dm(55674), 1, 10000);
-    const Currency r = produktViermalAbgeschnitten(y, 151.94);
+// Second zone: (faktor2 z + konstante2) z + sockel2, z above abzug2; 1996/1997 (151.94 z +
+// 3346) z + 12949 above 55674, 1998 (151.96 z + 3434) z + 13938 above 58590.
+Currency zweiteZone(const Steuertarif& t, Currency betrag) {
+    const Currency y = geteiltGerundet(betrag - dm(t.abzug2), 1, 10000);
+    const Currency r = produktViermalAbgeschnitten(y, t.faktor2);
     // The product is a Currency already: cutting it to four decimals changes nothing.
-    const Currency ry = (r + dm(3346)) * y;
-    return (ry + dm(12949)).abgeschnitten();
+    const Currency ry = (r + dm(t.konstante2)) * y;
+    return (ry + dm(t.sockel2)).abgeschnitten();
 }
 
-// Upper zone, from 120042 DM: 53 % less 22842.
-Currency obereZone(Currency betrag) {
-    return (betrag * Currency::roh(5300) - dm(22842)).abgeschnitten();
+// Upper zone: 53 % less 22842 (1998: 22843).
+Currency obereZone(const Steuertarif& t, Currency betrag) {
+    return (betrag * Currency::roh(5300) - dm(t.abzug3)).abgeschnitten();
 }
 
-std::optional<Currency> tarifzone(Currency betrag) {
-    if (betrag < dm(12096))
+std::optional<Currency> tarifzone(const Steuertarif& t, Currency betrag) {
+    if (betrag < dm(t.eingang))
         return Currency{};
-    if (betrag < dm(55728))
-        return ersteZone(betrag);
-    if (betrag <= dm(120041))
-        return zweiteZone(betrag);
-    if (betrag >= dm(120042))
-        return obereZone(betrag);
+    if (betrag < dm(t.anfang2))
+        return ersteZone(t, betrag);
+    if (betrag <= dm(t.ende2))
+        return zweiteZone(t, betrag);
+    if (betrag >= dm(t.anfang3))
+        return obereZone(t, betrag);
     return std::nullopt; // between the two: no zone, st stays
 }
 
 } // namespace
 
 void grundtarif(Lohnsteuerlauf& l, Currency betrag) {
-    if (const std::optional<Currency> steuer = tarifzone(betrag))
+    if (const std::optional<Currency> steuer = tarifzone(steuertarif(l.recht), betrag))
         l.st = *steuer * dm(l.kztab);
 }
 

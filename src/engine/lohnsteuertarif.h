@@ -16,8 +16,8 @@ void vorsorge(Lohnsteuerlauf& l);
 // whole Pfennig and raised by one Pfennig whenever the half is not whole DM.
 [[nodiscard]] Currency haelfteDesRests(Currency ueberschuss);
 
-// The tariff of 1996 to 1998 on an amount on the grid, times kztab, into st. An amount
-// between 120041 and 120042 leaves st as it was.
+// The tariff of the run's law (l.recht) on an amount on the grid, times kztab, into st. An
+// amount between the end of the second zone and the start of the third leaves st as it was.
 void grundtarif(Lohnsteuerlauf& l, Currency betrag);
 
 // Classes 5 and 6: twice the difference of the tariff on 125 % and 75 %, at least 25.9 %.

@@ -7,6 +7,7 @@
 #include "engine/kirchensteuer.h"
 #include "engine/lohnsteuer.h"
 #include "engine/schritte.h"
+#include "engine/steuerrechtwahl.h"
 #include "start/satzzugriff.h"
 
 namespace lonvir {
@@ -89,8 +90,9 @@ void sonstigerbezug(Sitzung& s) {
     s.lstwert[21] = pf::minus(s.lstwert[20], s.lstwert[19]);
     s.lstwert[24] = pf::minus(s.lstwert[23], s.lstwert[22]);
     s.lstwert[27] = pf::minus(s.lstwert[26], s.lstwert[25]);
-    // The surcharge on one-off pay is capped at 7.5 % of the wage tax on it.
-    const Currency kappe = Currency::ganz(s.lstwert[21]) * Currency::roh(750);
+    // The surcharge on one-off pay is capped at its rate (7.5 %, 5.5 % under the law of 1998)
+    // of the wage tax on it.
+    const Currency kappe = Currency::ganz(s.lstwert[21]) * steuertarif(l.recht).zuschlagsatz();
     if (kappe < Currency::ganz(s.lstwert[24]))
         s.lstwert[24] = kappe.gerundetInt32();
 }
@@ -136,6 +138,7 @@ void steuereingaben(Sitzung& s) {
     l.re4 = s.steuerlohn;
     l.vbez = Currency{};
     l.lzzfreib = Currency{};
+    l.recht = steuerrechtfuer(s);
     s.kirchensatz = kirchensatzVon(s.merkmal[36], s.merkmal[28]);
 }
 

@@ -5,10 +5,10 @@
 
 namespace lonvir {
 
-Currency solidaritaetszuschlag(Currency t, Currency grenze) {
+Currency solidaritaetszuschlag(Currency t, Currency grenze, std::int64_t promille) {
     if (t <= grenze)
         return Currency{};
-    const Currency a = geteiltGerundet(t, 75, 1000);
+    const Currency a = geteiltGerundet(t, promille, 1000);
     const Currency b = geteiltGerundet(t - grenze, 20, 100);
     return b < a ? b : a;
 }

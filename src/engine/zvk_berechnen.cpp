@@ -4,6 +4,7 @@
 #include "core/pfennig.h"
 #include "engine/schaltersumme.h"
 #include "engine/schritte.h"
+#include "engine/steuerrechtwahl.h"
 
 namespace lonvir {
 
@@ -129,7 +130,9 @@ void pauschsteuer(Sitzung& s) {
     s.zvkwert[23] = pf::gerundet(static_cast<double>(s.zvkwert[22]) *
                                  static_cast<double>(s.einstellungen.kirchenpausch) / 100.0);
     s.wert[6] = s.zvkwert[23];
-    s.zvkwert[24] = pf::abgeschnitten(static_cast<double>(s.zvkwert[22]) * 0.075);
+    // The surcharge on the lump tax at the rate of the year's law: 7.5 %, 5.5 % under 1998's.
+    const double zuschlag = steuertarif(steuerrechtfuer(s)).zuschlag;
+    s.zvkwert[24] = pf::abgeschnitten(static_cast<double>(s.zvkwert[22]) * zuschlag);
     std::int32_t gesamt = 0;
     for (int i = 21; i <= 24; ++i)
         gesamt = pf::plus(gesamt, s.zvkwert[i]);

@@ -145,6 +145,14 @@ LStrTabFenster::LStrTabFenster(QWidget* eltern) : QDialog(eltern) {
     auswahlgeaendert();
 }
 
+void LStrTabFenster::rechtsetzen(Steuerrecht recht) {
+    setWindowTitle(u8(lstrtabTitelFuer(recht)));
+    if (t_.auswahl.recht == recht)
+        return;
+    t_.auswahl.recht = recht;
+    auswahlgeaendert();
+}
+
 void LStrTabFenster::auswahlgeaendert() {
     Tabellenauswahl& a = t_.auswahl;
     a.lohnzeitraum = static_cast<std::int16_t>(combos_[0]->currentIndex() + 1);
@@ -189,7 +197,7 @@ void LStrTabFenster::grid1_DblClick(int klasse) {
 void LStrTabFenster::drucken() {
     Merkdrucker d;
     tabelledrucken(t_, d);
-    vorschau(this, d, QString::fromUtf8(lstrtabTitel));
+    vorschau(this, d, u8(lstrtabTitelFuer(t_.auswahl.recht)));
 }
 
 void LStrTabFenster::bereichdrucken() {
@@ -222,7 +230,7 @@ void LStrTabFenster::bereichdrucken() {
     }
     Merkdrucker d;
     tabellenbereichdrucken(b, d);
-    vorschau(this, d, QString::fromUtf8(lstrtabTitel));
+    vorschau(this, d, u8(lstrtabTitelFuer(t_.auswahl.recht)));
 }
 
 } // namespace lonvir::gui

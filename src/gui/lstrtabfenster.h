@@ -40,6 +40,8 @@ public:
     [[nodiscard]] QLabel* label2() const { return label2_; }
     [[nodiscard]] FreibetrFenster* freibetr() const { return freibetr_; }
 
+    // The law every cell is computed with; the caption names its year.
+    void rechtsetzen(Steuerrecht recht);
     // A double click on the row of class `klasse` (1 to 6): the allowances of that class.
     void grid1_DblClick(int klasse);
     // The band shown, and a range of bands from `von` to `bis` DM, each to the preview.

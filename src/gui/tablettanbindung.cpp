@@ -3,6 +3,7 @@
 
 #include "core/programmende.h"
 #include "engine/berechnen.h"
+#include "engine/steuerrechtwahl.h"
 #include "gui/druckauftrag.h"
 #include "gui/farbenfenster.h"
 #include "gui/kvfenster.h"
@@ -223,6 +224,7 @@ void Tablettanbindung::formzeigen(const std::string& name) {
         // The viewer keeps its inputs while it stays open; the menu and page 6 bring it up.
         if (lstrtab_ == nullptr)
             lstrtab_ = new LStrTabFenster(&f_);
+        lstrtab_->rechtsetzen(steuerrechtfuer(s_));
         lstrtab_->show();
         lstrtab_->raise();
         emit formGezeigt(lstrtab_);

@@ -3,6 +3,7 @@
 
 #include "core/druckformat.h"
 #include "core/pfennig.h"
+#include "engine/steuerrechtwahl.h"
 #include "reports/berichtskopf.h"
 #include "start/satzzugriff.h"
 #include "start/texte.h"
@@ -67,11 +68,12 @@ void kirchensteuer(Lohnsteuernachweis& n, Lohnsteuerzeile& z, int erstespalte, i
     }
 }
 
-// The lump tax on the supplementary pension holds the wage tax and its 7.5 % surcharge;
-// the two parts are split here and rounded each on its own.
-void pauschsteuer(Lohnsteuernachweis& n, Lohnsteuerzeile& z, std::int32_t wert) {
-    const std::int32_t steuer = pf::gerundet(wert / 1.075);
-    const std::int32_t zuschlag = pf::gerundet(wert / 1.075 * 0.075);
+// The lump tax on the supplementary pension holds the wage tax and its surcharge (7.5 %, 5.5 %
+// under the law of 1998); the two parts are split here and rounded each on its own.
+void pauschsteuer(Lohnsteuernachweis& n, Lohnsteuerzeile& z, std::int32_t wert,
+                  const Steuertarif& recht) {
+    const std::int32_t steuer = pf::gerundet(wert / recht.mitzuschlag);
+    const std::int32_t zuschlag = pf::gerundet(wert / recht.mitzuschlag * recht.zuschlag);
     n.summen[5] = pf::plus(n.summen[5], steuer);
     n.summen[6] = pf::plus(n.summen[6], zuschlag);
     z.betraege[5] = Nachweisbetrag::betrag(steuer / 100.0);
@@ -85,7 +87,7 @@ Lohnsteuerzeile zeilebilden(Sitzung& s, Lohnsteuernachweis& n, int person, const
     z.betraege[0] = ganzeranteil(n.summen[0], p.wert[33], -1);
     z.betraege[1] = ganzeranteil(n.summen[1], p.wert[35], -1);
     kirchensteuer(n, z, 2, p.merkmal[28], p.wert[36], -1);
-    pauschsteuer(n, z, p.wert[32]);
+    pauschsteuer(n, z, p.wert[32], steuertarif(steuerrechtfuer(s)));
     kirchensteuer(n, z, 7, p.merkmal[28], p.wert[6], 1);
     z.betraege[10] = ganzeranteil(n.summen[10], p.wert[34], 1);
     return z;

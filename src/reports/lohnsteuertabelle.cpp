@@ -5,6 +5,10 @@
 
 namespace lonvir {
 
+std::string lstrtabTitelFuer(Steuerrecht recht) {
+    return "Lohnsteuer-Tabelle " + steuerrechtjahr(recht);
+}
+
 std::string kinderfreibetragseintrag(int position) {
     if (position == 0)
         return "keine Kinderfreibeträge";
@@ -49,6 +53,7 @@ Tabellenzeile klassenzeile(const Lohnsteuertabelle& t, std::int16_t steuerklasse
     l.alter64 = t.auswahl.altersentlastung;
     l.besonders = t.auswahl.besonderetabelle;
     l.kirche = 1;
+    l.recht = t.auswahl.recht;
     lohnsteuer(l);
     Tabellenzeile z;
     z.lohnsteuer = l.lstlzz;

@@ -4,6 +4,7 @@
 
 #include "core/currency.h"
 #include "core/feld.h"
+#include "engine/steuerrecht.h"
 
 #include <array>
 #include <cstdint>
@@ -12,6 +13,8 @@
 namespace lonvir {
 
 inline constexpr const char* lstrtabTitel = "Lohnsteuer-Tabelle 1997";
+// The caption for the law the table shows: "Lohnsteuer-Tabelle 1997" or "Lohnsteuer-Tabelle 1998".
+[[nodiscard]] std::string lstrtabTitelFuer(Steuerrecht recht);
 inline constexpr std::int32_t lstrtabScrollMax = 3900;
 
 // The lists of the form, in list order.
@@ -55,6 +58,7 @@ struct Tabellenauswahl {
     std::int16_t altersentlastung = 0;               // Combo4: position
     Currency kirchensteuersatz = Currency::roh(800); // Combo5: 0.08 or 0.09
     std::int32_t scrollwert = 0;                     // HScroll1.Value
+    Steuerrecht recht = Steuerrecht::recht1997;      // the law every line is computed with
     bool operator==(const Tabellenauswahl&) const = default;
 };
 

@@ -28,7 +28,7 @@ void bereichskopf(const Tabellenbereich& b, Drucker& d) {
     d.FontName("courier new");
     d.FontSize(12);
     d.FontBold(true);
-    d.Print({lstrtabTitel, std::string(" - "),
+    d.Print({lstrtabTitelFuer(b.auswahl.recht), std::string(" - "),
              lohnzeitraumliste.at(static_cast<std::size_t>(b.auswahl.lohnzeitraum - 1))});
     d.FontBold(false);
     d.FontSize(8);
@@ -107,7 +107,7 @@ void tabelledrucken(const Lohnsteuertabelle& t, Drucker& d) {
     d.Print({});
     d.FontSize(14);
     d.FontBold(true);
-    d.Print({Tab{10}, lstrtabTitel});
+    d.Print({Tab{10}, lstrtabTitelFuer(t.auswahl.recht)});
     d.FontBold(false);
     d.FontSize(12);
     d.Print({});

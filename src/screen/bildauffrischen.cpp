@@ -73,6 +73,8 @@ void Form1::bildauffrischen() {
     schaltermalen();
     positionensetzen();
     bild.bdabeginn = ohneblanks(s.bdabeginn);
+    // The caption names the tax law the month was just computed with.
+    jahresanzeige();
     // 11.
     s.aenderungssperre = 0;
     s.bildwirdgebaut = 0;

@@ -10,7 +10,9 @@
 namespace lonvir {
 
 // The caption of the main window: "LONVIR 1997 im öffentlichen Dienst    (ohne Gewähr)", with
-// the year of the open set; a folder opened for reading only adds that nothing is stored.
+// the year of the open set; a folder opened for reading only adds that nothing is stored; in
+// 1998 with the tax law of 1998 switched on followed by "    Lohnsteuer nach dem Steuerrecht
+// 1998".
 [[nodiscard]] std::string fenstertitel(const Sitzung& s);
 
 class Hauptform {

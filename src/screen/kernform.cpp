@@ -2,16 +2,22 @@
 #include "screen/hauptform.h"
 
 #include "engine/monatladen.h"
+#include "engine/steuerrechtwahl.h"
 #include "start/einstellungen.h"
 #include "start/texte.h"
 
 namespace lonvir {
 
 std::string fenstertitel(const Sitzung& s) {
+    std::string titel = std::string("LONVIR ") + (s.ist1997() ? "1997" : std::to_string(s.jahr)) +
+                        " im öffentlichen Dienst    (ohne Gewähr)";
+    // The months of 1998 computed by the tax law of 1998 say so; the law of 1997 is the rule.
+    if (steuerrechtfuer(s) == Steuerrecht::recht1998)
+        titel += "    " + steuerrechtzeile(s);
     // A damaged store opened for reading only says so in the caption: nothing is stored.
-    return std::string("LONVIR ") + (s.ist1997() ? "1997" : std::to_string(s.jahr)) +
-           " im öffentlichen Dienst    (ohne Gewähr)" +
-           (s.nurLesen ? "    - NUR LESEN: Eingaben werden nicht gespeichert" : "");
+    if (s.nurLesen)
+        titel += "    - NUR LESEN: Eingaben werden nicht gespeichert";
+    return titel;
 }
 
 void Kernform::bildauffrischen() {

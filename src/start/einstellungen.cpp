@@ -199,6 +199,7 @@ void vorgabenableiten(Sitzung& s) {
     e.kirchenpausch = ganzzahl(s, 28);
     for (int i = 0; i <= 3; ++i)
         e.zuwendungsquote[i] = s.voreinstellung[30 + i];
+    e.steuerrecht1998 = ganzzahl(s, steuerrecht1998element) == 1;
 }
 
 int textfarbe(int zeilenfarbe) {

@@ -20,6 +20,9 @@ void voelesen(Sitzung& s);
 void voeschreiben(Sitzung& s);
 [[nodiscard]] int voesatznummer(const Sitzung& s);
 
+// The element of `voreinstellung` that switches the tax law of 1998 on (1) or off (0).
+inline constexpr int steuerrecht1998element = 34;
+
 // Turns the stored steps of the settings into rates, ceilings and months; restores the person.
 void aktualisieren(Sitzung& s);
 // The rates, ceilings, months and factors alone, as the settings pages derive them after a

@@ -8,6 +8,10 @@
 
 namespace lonvir {
 
+// The tax law a run follows: the income-tax tariff and the solidarity surcharge of 1996/1997,
+// or those of 1998.
+enum class Steuerrecht : std::int16_t { recht1997 = 1997, recht1998 = 1998 };
+
 // Inputs, outputs and every working value of one run. The inputs survive a run; everything
 // else is cleared at its start, so after a run the working values are those of the last step.
 struct Lohnsteuerlauf {
@@ -21,6 +25,8 @@ struct Lohnsteuerlauf {
     Currency lzzfreib;          // allowance of the period, Pfennig
     std::int16_t besonders = 0; // 1: the special table for civil servants
     std::int16_t kirche = 0;    // above 0 if church tax applies
+    // The law whose tariff and surcharge the run takes.
+    Steuerrecht recht = Steuerrecht::recht1997;
 
     // --- outputs, Pfennig
     Currency lstlzz;     // wage tax of the period, cut to whole Pfennig

@@ -55,6 +55,9 @@ struct Einstellungswerte {
     std::int32_t liste26 = 0;
     std::int32_t zvkmodus = 0, kirchenpausch = 0;
     Feld<Currency, 0, 3> zuwendungsquote;
+    // "Steuerrecht 1998 anwenden": element 34, which the record otherwise keeps as read; 1 on,
+    // 0 off. Only the record of 1998 acts on it.
+    bool steuerrecht1998 = false;
 };
 
 // The step list of row 7 as it stands: "Festes Grundgehalt" in front where set, then the text

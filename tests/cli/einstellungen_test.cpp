@@ -120,4 +120,17 @@ TEST(CliEinstellungen, StartsperreAufSeite2) {
     EXPECT_EQ(static_cast<std::uint8_t>(dim[205]), 0x27);
 }
 
+// The switch of the tax law of 1998 (element 34 of the record of 1998) is shown, off as
+// installed: the months of 1998 are computed by the law of 1997.
+TEST(CliEinstellungen, ZeigtDenSchalterDesSteuerrechts1998) {
+    test::Tempordner t;
+    const test::Clilauf l = clilauf("einstellungen --jahr 1998 --ordner " + t.pfad().string());
+    ASSERT_EQ(l.status, 0) << l.aus;
+    EXPECT_TRUE(enthaelt(l.aus, "steuerrecht1998 = 0")) << l.aus;
+    EXPECT_TRUE(enthaelt(l.aus, "Lohnsteuer nach dem Steuerrecht 1997")) << l.aus;
+    const test::Clilauf j =
+        clilauf("einstellungen --json --jahr 1998 --ordner " + t.pfad().string());
+    EXPECT_TRUE(enthaelt(j.aus, "\"steuerrecht1998\":0")) << j.aus;
+}
+
 } // namespace lonvir

@@ -76,4 +76,21 @@ TEST(CliLohnsteuer, LegtKeinenArbeitsordnerAn) {
     EXPECT_FALSE(std::filesystem::exists(neu));
 }
 
+// 3946.89 DM a month, class I: 1998 wage tax 691,16, surcharge 38,01 (worked out in the
+// routine's tests); without --recht the law of 1997, 694,91 and 52,11.
+TEST(CliLohnsteuer, RechtVon1998) {
+    Tempordner o;
+    const std::string lauf =
+        "lohnsteuer --ordner " + o.pfad().string() + " --re4 394689 --lzz 2 --stkl 1 --zkf 0";
+    const Clilauf a = cliAufruf(lauf + " --recht 1998 --json");
+    EXPECT_EQ(a.status, 0) << a.aus;
+    EXPECT_TRUE(enthaelt(a.aus, "\"lstlzz\":69116.0000")) << a.aus;
+    EXPECT_TRUE(enthaelt(a.aus, "\"solzlzz\":3801.0000")) << a.aus;
+    EXPECT_TRUE(enthaelt(a.aus, "\"recht\":1998")) << a.aus;
+    const Clilauf b = cliAufruf(lauf);
+    EXPECT_TRUE(enthaelt(b.aus, "lstlzz      69491.0000")) << b.aus;
+    EXPECT_TRUE(enthaelt(b.aus, "solzlzz     5211.0000")) << b.aus;
+    EXPECT_TRUE(enthaelt(b.aus, "recht       1997")) << b.aus;
+}
+
 } // namespace lonvir::test

@@ -59,6 +59,26 @@ TEST(CliTabelle, FalscheEingabenSindAufruffehler) {
     EXPECT_TRUE(enthaelt(a.aus, "--kirche erwartet 8 oder 9")) << a.aus;
 }
 
+// The law of 1998 for the same band: x = 41958 DM (step 47954, allowances 2108, Vorsorgepauschale
+// 3888); y = 2.9646, 91.19 y = 270.341874 -> 270.3418, 2860.3418 * 2.9646 = 8479.7693 -> 8479 DM;
+// the month 847900 / 12 -> 706,58; surcharge 5.5 % = 466.345 (below 20 % of 6643), 46634.5 / 12
+// -> 38,86; church tax 8 % of 706,58 = 56,5264 -> 56,52. The caption names the law.
+TEST(CliTabelle, RechtVon1998) {
+    Tempordner o;
+    const Clilauf a = cliAufruf("tabelle --ordner " + o.pfad().string() +
+                                " --zeitraum monat --stufe 888 --recht 1998");
+    EXPECT_EQ(a.status, 0) << a.aus;
+    EXPECT_TRUE(enthaelt(a.aus, "Lohnsteuer-Tabelle 1998")) << a.aus;
+    EXPECT_TRUE(enthaelt(a.aus, "I                706,58          38,86          56,52")) << a.aus;
+    const Clilauf j = cliAufruf("tabelle --ordner " + o.pfad().string() +
+                                " --zeitraum monat --stufe 888 --recht 1998 --json");
+    EXPECT_TRUE(enthaelt(j.aus, "\"recht\":1998,\"titel\":\"Lohnsteuer-Tabelle 1998\"")) << j.aus;
+    const Clilauf f = cliAufruf("tabelle --ordner " + o.pfad().string() +
+                                " --zeitraum monat --stufe 888 --recht 1999");
+    EXPECT_EQ(f.status, 2);
+    EXPECT_TRUE(enthaelt(f.aus, "--recht muss 1997 oder 1998 sein, nicht \"1999\".")) << f.aus;
+}
+
 } // namespace lonvir::test
 
 namespace lonvir::test {
