@@ -45,6 +45,7 @@ constexpr Eintrag eintraege[] = {
     {23, 44, 6, ".2er Tarife"},
     {24, 44, 7, ".3er Tarife"},
     {25, 44, 8, ".4er Tarife"},
+    {34, 44, 9, "Steuerrecht 1998 anwenden"},
     {26, 65, 0, "Zusatzversorgung"},
     {27, 65, 1, "ZVK-Versteuerung"},
     {28, 65, 2, "Kirchensteuer ZVK-Pauschsteuer"},
@@ -53,6 +54,11 @@ constexpr Eintrag eintraege[] = {
     {32, 64, -1, "Zuwendungsquote Angestellte West"},
     {33, 64, -1, "Zuwendungsquote Angestellte Ost"},
 };
+
+// The switch of the tax law belongs to the record of 1998 only.
+bool gilt(const Sitzung& s, const Eintrag& e) {
+    return e.element != steuerrecht1998element || !s.ist1997();
+}
 
 std::vector<std::string> liste(Sitzung& s, const Eintrag& e) {
     if (e.seite == 63)
@@ -123,6 +129,8 @@ void alsJson(Kontext& k, std::ostream& aus) {
     feldJson(j, "vorgabewert", s.vorgabewert);
     j.feldAnfang("positionen");
     for (const Eintrag& e : eintraege) {
+        if (!gilt(s, e))
+            continue;
         j.objektAnfang()
             .zahl("element", e.element)
             .zahl("seite", e.seite)
@@ -147,6 +155,8 @@ void alsText(Kontext& k, std::ostream& aus) {
     aus << "Einstellungen " << vorgabejahr(s) << " (Lonvir97.voe, Satz " << voesatznummer(s)
         << ")\n";
     for (const Eintrag& e : eintraege) {
+        if (!gilt(s, e))
+            continue;
         aus << "Seite " << e.seite << "  voreinstellung(" << e.element
             << ") = " << s.voreinstellung[e.element].text() << "  " << e.bedeutung;
         if (e.combo >= 0)

@@ -38,6 +38,15 @@ void tarifstrukturseite(Tablett& t) {
     oben += vorgabelage::abstand;
     for (int combo = 1; combo <= 4; ++combo)
         liste(combo);
+    // In 1998 the law of the wage tax: that of 1996/1997 as before, or that of 1998.
+    if (!s.ist1997()) {
+        vorgabezeile(t, 7, "Lohnsteuer der Monate 1998", oben, breite);
+        oben += vorgabelage::abstand;
+        vorgabeliste(t, steuerrechtcombo, t.Combo[steuerrechtcombo].liste,
+                     s.voreinstellung[steuerrecht1998element].gerundetInt32(),
+                     {vorgabelage::links, oben, breite, vorgabelage::feldhoehe});
+        oben += 330;
+    }
     vorgabeknoepfe(t, oben + 150);
     t.fokus = {Tablettfokusart::combo, 5};
 }
@@ -47,6 +56,9 @@ void tarifstrukturspeichern(Tablett& t) {
     for (int combo = 1; combo <= 8; ++combo)
         if (t.Combo[combo].position >= 0)
             s.voreinstellung[erstesElement + combo - 1] = Currency::ganz(t.Combo[combo].position);
+    if (!s.ist1997() && t.Combo[steuerrechtcombo].position >= 0)
+        s.voreinstellung[steuerrecht1998element] =
+            Currency::ganz(t.Combo[steuerrechtcombo].position);
     vorgabenableiten(s);
     voeschreiben(s);
     t.gespeichert = true;

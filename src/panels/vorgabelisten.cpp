@@ -128,6 +128,11 @@ std::vector<std::string> tarifstrukturliste(const Sitzung& s, int combo) {
         return tarifmonate(s, ".3er");
     case 8:
         return tarifmonate(s, ".4er");
+    case steuerrechtcombo:
+        // The law the wage tax of 1998 is computed with; the year 1997 has no choice.
+        if (s.ist1997())
+            return {};
+        return {"Lohnsteuer nach dem Steuerrecht 1997", "Steuerrecht 1998 anwenden"};
     }
     return {};
 }
@@ -147,7 +152,7 @@ void listenfuellen(Tablett& t) {
             t.Combo[i].liste = zvkvorgabenliste(t.s, i);
         break;
     case 44:
-        for (int i = 1; i <= 8; ++i)
+        for (int i = 1; i <= steuerrechtcombo; ++i)
             t.Combo[i].liste = tarifstrukturliste(t.s, i);
         break;
     case 2:

@@ -10,6 +10,9 @@
 
 namespace lonvir {
 
+// Combo(9) of page 44 in 1998: "Steuerrecht 1998 anwenden", element 34 of the record.
+inline constexpr int steuerrechtcombo = 9;
+
 // --- the lists (listenfuellen): what Combo(index) of the page offers, entry by entry
 [[nodiscard]] std::vector<std::string> sozvorgabenliste(int combo);
 [[nodiscard]] std::vector<std::string> zvkvorgabenliste(Sitzung& s, int combo);
