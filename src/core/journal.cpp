@@ -4,13 +4,16 @@
 #include "core/laufzeitfehler.h"
 #include "core/schreibstoerung.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <map>
+#include <set>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace lonvir::journal {
 
@@ -91,9 +94,111 @@ bool allesschreiben(int fd, std::span<const std::uint8_t> b, std::int64_t ab) {
     return true;
 }
 
+// The descriptors of one store: those the caller holds open, and those opened here, which are
+// closed at the end. A file deleted in the store is opened anew for the writes after it.
+class Deskriptoren {
+public:
+    Deskriptoren(fs::path ordner, const std::map<std::string, int>& geliehen)
+        : ordner_(std::move(ordner)), geliehen_(geliehen) {}
+    ~Deskriptoren() {
+        for (const auto& [name, fd] : eigene_)
+            ::close(fd);
+    }
+    Deskriptoren(const Deskriptoren&) = delete;
+    Deskriptoren& operator=(const Deskriptoren&) = delete;
+
+    // The file's descriptor, created with `anlegen`; -1 with errno when it cannot be opened.
+    int holen(const std::string& name, bool anlegen) {
+        if (auto it = eigene_.find(name); it != eigene_.end())
+            return it->second;
+        if (auto it = geliehen_.find(name); it != geliehen_.end() && !ersetzt_.contains(name))
+            return it->second;
+        const fs::path pfad = ordner_ / name;
+        const int fd = ::open(pfad.c_str(), O_RDWR | O_CLOEXEC | (anlegen ? O_CREAT : 0), 0644);
+        if (fd >= 0)
+            eigene_.emplace(name, fd);
+        return fd;
+    }
+    // Before the file is deleted: its descriptor is given up.
+    void aufgeben(const std::string& name) {
+        if (auto it = eigene_.find(name); it != eigene_.end()) {
+            ::close(it->second);
+            eigene_.erase(it);
+        }
+        ersetzt_.insert(name);
+    }
+
+private:
+    fs::path ordner_;
+    const std::map<std::string, int>& geliehen_;
+    std::map<std::string, int> eigene_;
+    std::set<std::string> ersetzt_;
+};
+
+// Whether the file holds exactly `bytes` at `versatz` (all of them within its length).
+bool haeltSchon(int fd, std::int64_t versatz, const std::vector<std::uint8_t>& bytes) {
+    if (fd < 0)
+        return false;
+    std::vector<std::uint8_t> alt(bytes.size());
+    std::size_t gelesen = 0;
+    while (gelesen < alt.size()) {
+        const ssize_t n = ::pread(fd, alt.data() + gelesen, alt.size() - gelesen,
+                                  static_cast<off_t>(versatz + static_cast<std::int64_t>(gelesen)));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        gelesen += static_cast<std::size_t>(n);
+    }
+    return alt == bytes;
+}
+
+// Whether two writes of a file overlap; then their order matters and none may be left out.
+bool ueberlappend(std::vector<std::pair<std::int64_t, std::int64_t>> bereiche) {
+    std::sort(bereiche.begin(), bereiche.end());
+    std::int64_t ende = 0;
+    for (std::size_t i = 0; i < bereiche.size(); ++i) {
+        if (i > 0 && bereiche[i].first < ende)
+            return true;
+        ende = std::max(ende, bereiche[i].second);
+    }
+    return false;
+}
+
+// The steps that change the folder: a write that gives a record the bytes the file already
+// holds changes nothing, unless the file is deleted in the same store or two of its writes
+// overlap.
+std::vector<Schreibvorgang::Schritt> aenderungen(Deskriptoren& d,
+                                                 std::vector<Schreibvorgang::Schritt> schritte) {
+    using Art = Schreibvorgang::Schritt::Art;
+    std::map<std::string, std::vector<std::pair<std::int64_t, std::int64_t>>> bereiche;
+    std::set<std::string> festeFolge;
+    for (const auto& s : schritte) {
+        const std::string name = s.pfad.filename().string();
+        if (s.art == Art::loeschen)
+            festeFolge.insert(name);
+        else
+            bereiche[name].emplace_back(s.versatz,
+                                        s.versatz + static_cast<std::int64_t>(s.bytes.size()));
+    }
+    for (const auto& [name, b] : bereiche)
+        if (ueberlappend(b))
+            festeFolge.insert(name);
+    std::vector<Schreibvorgang::Schritt> noetig;
+    noetig.reserve(schritte.size());
+    for (auto& s : schritte) {
+        const std::string name = s.pfad.filename().string();
+        const bool unveraendert = s.art == Art::schreiben && !festeFolge.contains(name) &&
+                                  haeltSchon(d.holen(name, false), s.versatz, s.bytes);
+        if (!unveraendert)
+            noetig.push_back(std::move(s));
+    }
+    return noetig;
+}
+
 // The blocks a file grows by, taken before the journal is written, so that a full disk stops
 // the store before anything has changed and not in the middle of applying it.
-void platzreservieren(const fs::path& ordner,
+void platzreservieren(Deskriptoren& d, const fs::path& ordner,
                       const std::vector<Schreibvorgang::Schritt>& schritte) {
     std::map<std::string, std::int64_t> ende;
     for (const auto& s : schritte)
@@ -103,7 +208,7 @@ void platzreservieren(const fs::path& ordner,
         }
     for (const auto& [name, e] : ende) {
         const fs::path pfad = ordner / name;
-        const int fd = ::open(pfad.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+        const int fd = d.holen(name, true);
         if (fd < 0)
             throw Dateifehler(pfad.string(), std::string("kann nicht geöffnet werden (") +
                                                  std::strerror(errno) + "). " + nichtsGespeichert);
@@ -116,7 +221,6 @@ void platzreservieren(const fs::path& ordner,
             if (fehler == EOPNOTSUPP || fehler == ENOSYS)
                 fehler = 0; // a file system without reservation: the write itself will tell
         }
-        ::close(fd);
         if (fehler != 0)
             throw Dateifehler(pfad.string(), std::string("kein Platz für die Eingabe (") +
                                                  std::strerror(fehler) + "). " + nichtsGespeichert);
@@ -138,45 +242,27 @@ void journalschreiben(const fs::path& pfad, std::span<const std::uint8_t> bytes)
     }
 }
 
-void anwenden(const fs::path& ordner, const std::vector<Schreibvorgang::Schritt>& schritte) {
-    std::map<std::string, int> offen;
-    auto schliessen = [&offen] {
-        for (const auto& [name, fd] : offen)
-            ::close(fd);
-        offen.clear();
-    };
-    try {
-        for (const auto& s : schritte) {
-            const std::string name = s.pfad.filename().string();
-            const fs::path pfad = ordner / name;
-            if (s.art == Schreibvorgang::Schritt::Art::loeschen) {
-                if (auto it = offen.find(name); it != offen.end()) {
-                    ::close(it->second);
-                    offen.erase(it);
-                }
-                if (::unlink(pfad.c_str()) != 0 && errno != ENOENT)
-                    throw Dateifehler(pfad.string(), "kann nicht gelöscht werden");
-                continue;
-            }
-            auto it = offen.find(name);
-            if (it == offen.end()) {
-                const int fd = ::open(pfad.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
-                if (fd < 0)
-                    throw Dateifehler(pfad.string(), "kann nicht geöffnet werden");
-                it = offen.emplace(name, fd).first;
-            }
-            if (!allesschreiben(it->second, s.bytes, s.versatz))
-                throw Dateifehler(pfad.string(),
-                                  std::string("kann nicht geschrieben werden (") +
-                                      std::strerror(errno) +
-                                      "). Die Eingabe steht vollständig im Journal " + dateiname +
-                                      " und wird beim nächsten Start zu Ende gespeichert.");
+void anwenden(Deskriptoren& d, const fs::path& ordner,
+              const std::vector<Schreibvorgang::Schritt>& schritte) {
+    for (const auto& s : schritte) {
+        const std::string name = s.pfad.filename().string();
+        const fs::path pfad = ordner / name;
+        if (s.art == Schreibvorgang::Schritt::Art::loeschen) {
+            d.aufgeben(name);
+            if (::unlink(pfad.c_str()) != 0 && errno != ENOENT)
+                throw Dateifehler(pfad.string(), "kann nicht gelöscht werden");
+            continue;
         }
-    } catch (...) {
-        schliessen();
-        throw;
+        const int fd = d.holen(name, true);
+        if (fd < 0)
+            throw Dateifehler(pfad.string(), "kann nicht geöffnet werden");
+        if (!allesschreiben(fd, s.bytes, s.versatz))
+            throw Dateifehler(pfad.string(),
+                              std::string("kann nicht geschrieben werden (") +
+                                  std::strerror(errno) +
+                                  "). Die Eingabe steht vollständig im Journal " + dateiname +
+                                  " und wird beim nächsten Start zu Ende gespeichert.");
     }
-    schliessen();
 }
 
 std::optional<std::vector<std::uint8_t>> dateilesen(const fs::path& pfad) {
@@ -253,17 +339,23 @@ std::optional<std::vector<Schreibvorgang::Schritt>> dekodieren(std::span<const s
     return schritte;
 }
 
-void festschreiben(const fs::path& ordner, const Schreibvorgang& v) {
+void festschreiben(const fs::path& ordner, const Schreibvorgang& v,
+                   const std::map<std::string, int>& offen) {
     if (v.leer())
         return;
-    const std::vector<Schreibvorgang::Schritt> schritte = v.schritte();
+    std::vector<Schreibvorgang::Schritt> schritte = v.schritte();
     for (const auto& s : schritte)
         if (s.pfad.parent_path().lexically_normal() != ordner.lexically_normal())
             throw Dateifehler(s.pfad.string(), "liegt nicht im Arbeitsordner");
-    platzreservieren(ordner, schritte);
+    Deskriptoren d(ordner, offen);
+    schritte = aenderungen(d, std::move(schritte));
+    // Nothing changes: no journal, no flush.
+    if (schritte.empty())
+        return;
+    platzreservieren(d, ordner, schritte);
     const fs::path pfad = ordner / dateiname;
     journalschreiben(pfad, kodieren(schritte));
-    anwenden(ordner, schritte);
+    anwenden(d, ordner, schritte);
     ::unlink(pfad.c_str());
 }
 
@@ -280,8 +372,11 @@ Nachholen nachholen(const fs::path& ordner) {
     if (!b)
         return Nachholen::keins;
     const auto schritte = dekodieren(*b);
-    if (schritte)
-        anwenden(ordner, *schritte);
+    if (schritte) {
+        const std::map<std::string, int> keine;
+        Deskriptoren d(ordner, keine);
+        anwenden(d, ordner, *schritte);
+    }
     if (::unlink(pfad.c_str()) != 0)
         throw Dateifehler(pfad.string(), "kann nicht gelöscht werden");
     return schritte ? Nachholen::angewendet : Nachholen::verworfen;

@@ -7,7 +7,9 @@
 #include "core/schreibvorgang.h"
 
 #include <filesystem>
+#include <map>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace lonvir::journal {
@@ -18,10 +20,15 @@ inline constexpr const char* dateiname = "Lonvir97.jnl";
 // Stores every pending change of `v` in the folder `ordner`, all or nothing: reserves the
 // space the files grow by, writes and flushes the journal, applies it, removes it. Every file
 // of the transaction must lie directly in `ordner`.
+// A write that gives a record the bytes it already holds is left out; a transaction that
+// changes nothing writes no journal and flushes nothing. `offen` names files the caller holds
+// open (file name -> descriptor, opened for writing): they are written through these
+// descriptors and stay open.
 // Throws Dateifehler: before the journal is complete nothing has changed and the message says
 // "Es wurde nichts gespeichert."; a failure while applying leaves the complete journal, which
 // the next start applies.
-void festschreiben(const std::filesystem::path& ordner, const Schreibvorgang& v);
+void festschreiben(const std::filesystem::path& ordner, const Schreibvorgang& v,
+                   const std::map<std::string, int>& offen = {});
 
 enum class Nachholen { keins, angewendet, verworfen };
 // At start: applies a complete journal left by an interrupted store and discards an

@@ -19,7 +19,8 @@ Satzdatei::~Satzdatei() {
 
 Satzdatei::Satzdatei(Satzdatei&& andere) noexcept
     : fd_(andere.fd_), nurLesen_(andere.nurLesen_), vorgang_(andere.vorgang_),
-      satzlaenge_(andere.satzlaenge_), pfad_(std::move(andere.pfad_)) {
+      puffer_(andere.puffer_), ganz_(andere.ganz_), satzlaenge_(andere.satzlaenge_),
+      pfad_(std::move(andere.pfad_)) {
     andere.fd_ = -1;
     andere.nurLesen_ = false;
 }
@@ -30,6 +31,8 @@ Satzdatei& Satzdatei::operator=(Satzdatei&& andere) noexcept {
         fd_ = andere.fd_;
         nurLesen_ = andere.nurLesen_;
         vorgang_ = andere.vorgang_;
+        puffer_ = andere.puffer_;
+        ganz_ = andere.ganz_;
         satzlaenge_ = andere.satzlaenge_;
         andere.nurLesen_ = false;
         pfad_ = std::move(andere.pfad_);
@@ -100,20 +103,12 @@ void Satzdatei::platzfuer(std::int64_t ende, std::int32_t nummer) const {
 
 void Satzdatei::lesen(std::int32_t nummer, std::span<std::uint8_t> satz) const {
     const std::int64_t ab = versatz(nummer, satz.size());
-    std::fill(satz.begin(), satz.end(), std::uint8_t{0});
-    std::size_t gelesen = 0;
-    while (fd_ >= 0 && gelesen < satz.size()) {
-        ssize_t n = ::pread(fd_, satz.data() + gelesen, satz.size() - gelesen,
-                            static_cast<off_t>(ab + static_cast<std::int64_t>(gelesen)));
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            throw Dateifehler(pfad_.string(),
-                              "Satz " + std::to_string(nummer) + " kann nicht gelesen werden");
-        if (n == 0)
-            break;
-        gelesen += static_cast<std::size_t>(n);
-    }
+    const bool gelesen = puffer_ != nullptr && puffer_->aktiv()
+                             ? puffer_->lesen(pfad_.native(), fd_, ganz_, ab, satz)
+                             : vollLesen(fd_, ab, satz);
+    if (!gelesen)
+        throw Dateifehler(pfad_.string(),
+                          "Satz " + std::to_string(nummer) + " kann nicht gelesen werden");
     if (imVorgang())
         vorgang_->ueberlagern(pfad_, ab, satz);
 }
@@ -131,6 +126,8 @@ void Satzdatei::schreiben(std::int32_t nummer, std::span<const std::uint8_t> sat
                                               " kann nicht geschrieben werden (" +
                                               std::strerror(ENOSPC) + ")");
     platzfuer(ab + static_cast<std::int64_t>(satz.size()), nummer);
+    if (puffer_ != nullptr)
+        puffer_->vergessen(pfad_.native());
     ssize_t n;
     do {
         n = ::pwrite(fd_, satz.data(), satz.size(), static_cast<off_t>(ab));

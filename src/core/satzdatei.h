@@ -1,6 +1,7 @@
 // A random-access file of fixed-length records, opened for read and write.
 #pragma once
 
+#include "core/lesepuffer.h"
 #include "core/schreibvorgang.h"
 
 #include <cstdint>
@@ -26,6 +27,13 @@ public:
     // While `v` is active, writes go into it instead of the file, and reads and the length
     // see them; the binding survives closing and opening.
     void binden(Schreibvorgang* v) { vorgang_ = v; }
+    // While `p` is active, reads are kept in it for the rest of the action. With `ganz` the
+    // whole file is read at its first use (a small file read record by record, such as the
+    // text table). The binding survives closing and opening.
+    void binden(Lesepuffer* p, bool ganz = false) {
+        puffer_ = p;
+        ganz_ = ganz;
+    }
     void schliessen();
 
     [[nodiscard]] bool offen() const { return fd_ >= 0 || nurLesen_; }
@@ -33,6 +41,8 @@ public:
     [[nodiscard]] int satzlaenge() const { return satzlaenge_; }
     [[nodiscard]] const std::filesystem::path& pfad() const { return pfad_; }
     [[nodiscard]] std::int64_t laenge() const;
+    // The open descriptor, -1 when none; for a store that writes through it.
+    [[nodiscard]] int deskriptor() const { return nurLesen_ ? -1 : fd_; }
 
     // Reads record `nummer` (1-based); the part past the end of the file reads as zeros.
     void lesen(std::int32_t nummer, std::span<std::uint8_t> satz) const;
@@ -46,6 +56,8 @@ private:
     int fd_ = -1;
     bool nurLesen_ = false;
     Schreibvorgang* vorgang_ = nullptr;
+    Lesepuffer* puffer_ = nullptr;
+    bool ganz_ = false;
     int satzlaenge_ = 0;
     std::filesystem::path pfad_;
 };

@@ -4,10 +4,13 @@
 #include "engine/berechnen.h"
 #include "engine/stufenliste.h"
 #include "start/satzzugriff.h"
+#include "start/vorgang.h"
 
 namespace lonvir {
 
 void monatladen(Sitzung& s, std::int16_t person, std::int16_t monatsindex) {
+    // The load reads the person's months once, however often the run needs them.
+    Lesezeitraum zeitraum(s);
     s.aenderungssperre = -1;
     s.aktuelleperson = person;
     s.merkmal[0] = static_cast<std::int16_t>(person - 1);

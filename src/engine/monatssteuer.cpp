@@ -67,7 +67,8 @@ void sonstigerbezug(Sitzung& s) {
     const int monat = s.merkmal[20];
     std::int32_t vormonate = 0;
     for (int m = 0; m < monat; ++m)
-        vormonate = pf::plus(vormonate, personalsatzlesen(s, m + 1, s.aktuelleperson).wert[27]);
+        vormonate = pf::plus(
+            vormonate, Personalsatz::wertLesen(personalsatzbytes(s, m + 1, s.aktuelleperson), 27));
     s.lstwert[14] = vormonate;
     s.lstwert[15] = (l.re4 * Currency::ganz(12 - monat)).gerundetInt32();
     s.lstwert[16] = pf::plus(s.lstwert[14], s.lstwert[15]);

@@ -20,11 +20,11 @@ struct Jahressummen {
 Jahressummen januarBisNovember(Sitzung& s) {
     Jahressummen j;
     for (int monat = 0; monat <= 10; ++monat) {
-        const Personalsatz p = personalsatzlesen(s, monat + 1, s.aktuelleperson);
-        j.lohn = pf::plus(j.lohn, p.wert[27]);
-        j.steuer = pf::plus(j.steuer, p.wert[33]);
-        j.zuschlag = pf::plus(j.zuschlag, p.wert[35]);
-        j.kirche = pf::plus(j.kirche, p.wert[36]);
+        const auto p = personalsatzbytes(s, monat + 1, s.aktuelleperson);
+        j.lohn = pf::plus(j.lohn, Personalsatz::wertLesen(p, 27));
+        j.steuer = pf::plus(j.steuer, Personalsatz::wertLesen(p, 33));
+        j.zuschlag = pf::plus(j.zuschlag, Personalsatz::wertLesen(p, 35));
+        j.kirche = pf::plus(j.kirche, Personalsatz::wertLesen(p, 36));
     }
     return j;
 }

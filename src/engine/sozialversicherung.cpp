@@ -73,9 +73,11 @@ void svbrutto(Sitzung& s) {
 // stored health base (row 29); the crossing is kept as it is.
 void jahresraum(Sitzung& s) {
     for (int monat = 0; monat < beitragsmonat(s); ++monat) {
-        const Personalsatz frueher = personalsatzlesen(s, monat + 1, s.aktuelleperson);
-        s.svwert[12] = pf::plus(s.svwert[12], raum(bmg_kv(s), frueher.wert[28]));
-        s.svwert[15] = pf::plus(s.svwert[15], raum(bmg_rv(s), frueher.wert[29]));
+        const auto frueher = personalsatzbytes(s, monat + 1, s.aktuelleperson);
+        s.svwert[12] =
+            pf::plus(s.svwert[12], raum(bmg_kv(s), Personalsatz::wertLesen(frueher, 28)));
+        s.svwert[15] =
+            pf::plus(s.svwert[15], raum(bmg_rv(s), Personalsatz::wertLesen(frueher, 29)));
     }
 }
 

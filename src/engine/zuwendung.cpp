@@ -28,7 +28,7 @@ bool zuwendungsmonat(const Sitzung& s) {
 }
 
 std::int32_t zeile7imMonat(Sitzung& s, int monatsindex) {
-    return personalsatzlesen(s, monatsindex + 1, s.aktuelleperson).wert[7];
+    return Personalsatz::wertLesen(personalsatzbytes(s, monatsindex + 1, s.aktuelleperson), 7);
 }
 
 // The records of September, then October, then November are read until one has pay; the

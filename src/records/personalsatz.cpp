@@ -1,6 +1,7 @@
 // Packing and defaults of the person-month record.
 #include "records/personalsatz.h"
 
+#include "core/laufzeitfehler.h"
 #include "records/bytes.h"
 
 namespace lonvir {
@@ -43,6 +44,12 @@ Personalsatz Personalsatz::lesen(std::span<const std::uint8_t> b) {
     bytes::feldLesen(p.bru, b, abBru);
     p.bdabeginn = bytes::text(b, abBdabeginn, 7);
     return p;
+}
+
+std::int32_t Personalsatz::wertLesen(std::span<const std::uint8_t> b, int zeile) {
+    if (zeile < 0 || zeile > 45)
+        throw Laufzeitfehler::indexfehler();
+    return bytes::i32(b, abWert + 4 * static_cast<std::size_t>(zeile));
 }
 
 void Personalsatz::schreiben(std::span<std::uint8_t> b) const {

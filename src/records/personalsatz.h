@@ -36,6 +36,8 @@ struct Personalsatz {
     [[nodiscard]] static Personalsatz neu(std::int16_t monat);
 
     [[nodiscard]] static Personalsatz lesen(std::span<const std::uint8_t> satz);
+    // Element `zeile` of `wert` alone, for a reader that needs no other field.
+    [[nodiscard]] static std::int32_t wertLesen(std::span<const std::uint8_t> satz, int zeile);
     void schreiben(std::span<std::uint8_t> satz) const;
     [[nodiscard]] std::array<std::uint8_t, laenge> bytes() const;
 

@@ -4,6 +4,7 @@
 #include "engine/berechnen.h"
 #include "screen/form1.h"
 #include "start/satzzugriff.h"
+#include "start/vorgang.h"
 
 namespace lonvir {
 
@@ -34,6 +35,8 @@ std::string grossbuchstaben(std::string text) {
 } // namespace
 
 void Form1::bildauffrischen() {
+    // The refresh reads each record and text it needs once.
+    Lesezeitraum zeitraum(s);
     // 1.
     s.aenderungssperre = -1;
     s.bildwirdgebaut = -1;

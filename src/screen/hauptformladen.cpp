@@ -2,10 +2,13 @@
 #include "screen/hauptform.h"
 
 #include "start/start.h"
+#include "start/vorgang.h"
 
 namespace lonvir {
 
 void hauptformladen(Sitzung& s, Hauptform& form) {
+    // The lists take their words from the text table, which is read once for the whole load.
+    Lesezeitraum zeitraum(s);
     // 1.
     form.sanduhr(true);
     s.aenderungssperre = -1;

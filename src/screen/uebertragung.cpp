@@ -1,5 +1,7 @@
-// The transfer buttons: each record is read in one layer and written in the other, with the
-// whole file set reopened in between, since a layer is reached only through its set.
+// The transfer buttons: the person's twelve months and year record are read in one layer and
+// written in the other. The files of a layer other than the one on the screen are opened once
+// beside the set, so both layers stand open for the whole transfer; the set on the screen
+// stays open as it is.
 #include "screen/uebertragung.h"
 
 #include "start/dateisatz.h"
@@ -11,37 +13,34 @@ namespace lonvir {
 
 namespace {
 
-void satzkopieren(Sitzung& s, int nummer, std::int16_t von, std::int16_t nach) {
-    std::vector<std::uint8_t> puffer(static_cast<std::size_t>(satzlaengeVon(nummer)));
-    s.schicht = von;
-    dateienoeffnen(s);
-    // A record past the end of the source reads as zeros and is written so.
-    s.datei(nummer).lesen(s.aktuelleperson, puffer);
-    s.schicht = nach;
-    dateienoeffnen(s);
-    s.datei(nummer).schreiben(s.aktuelleperson, puffer);
+// The person files of `schicht`: the set's own for the layer on the screen, else `andere`.
+Satzdatei& personendatei(Sitzung& s, Personendateien& andere, std::int16_t schicht, int nummer) {
+    if (schicht == s.schicht)
+        return s.datei(nummer);
+    return andere[static_cast<std::size_t>(nummer)];
 }
 
 } // namespace
 
 void uebertragen(Sitzung& s, std::int16_t von, std::int16_t nach) {
-    // 1.
-    const std::int16_t schicht = s.schicht;
-    // 2. and 3. The person arrives whole in the target, or not at all.
+    Personendateien quelle = personendateienoeffnen(s, von == s.schicht ? -1 : von);
+    Personendateien ziel = personendateienoeffnen(s, nach == s.schicht ? -1 : nach);
+    // The person arrives whole in the target, or not at all.
+    Vorgang v(s);
+    std::vector<const Satzdatei*> zieldateien;
     try {
-        alsVorgang(s, [&] {
-            for (int monat = 1; monat <= 12; ++monat)
-                satzkopieren(s, monat, von, nach);
-            satzkopieren(s, datei::jahressaetze, von, nach);
-        });
+        for (int nummer = 1; nummer <= datei::jahressaetze; ++nummer) {
+            std::vector<std::uint8_t> puffer(static_cast<std::size_t>(satzlaengeVon(nummer)));
+            // A record past the end of the source reads as zeros and is written so.
+            personendatei(s, quelle, von, nummer).lesen(s.aktuelleperson, puffer);
+            Satzdatei& z = personendatei(s, ziel, nach, nummer);
+            z.schreiben(s.aktuelleperson, puffer);
+            zieldateien.push_back(&z);
+        }
     } catch (...) {
-        s.schicht = schicht;
-        dateienoeffnen(s);
-        throw;
+        nichtsgespeichert(v);
     }
-    // 4.
-    s.schicht = schicht;
-    dateienoeffnen(s);
+    v.abschliessen(zieldateien);
 }
 
 std::optional<std::pair<std::int16_t, std::int16_t>> uebertragungsrichtung(int knopf) {

@@ -5,8 +5,10 @@
 
 #include <algorithm>
 #include <array>
-#include <fstream>
-#include <iterator>
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <vector>
 
 namespace lonvir {
@@ -26,12 +28,37 @@ std::string personendatei(int jahr, char schicht, int nummer) {
     return "L" + std::to_string(jahr) + schicht + "." + std::to_string(nummer);
 }
 
-std::vector<std::uint8_t> inhalt(const Arbeitsordner& ordner, const std::string& name) {
-    if (!ordner.vorhanden(name))
-        return {};
-    std::ifstream f(ordner.pfad(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-}
+// A file's bytes mapped for reading, without a copy: the check looks at every record of the
+// store at each start. An absent, empty or unreadable file has no bytes.
+class Abbild {
+public:
+    Abbild(const Arbeitsordner& ordner, const std::string& name) {
+        const int fd = ::open(ordner.pfad(name).c_str(), O_RDONLY | O_CLOEXEC);
+        if (fd < 0)
+            return;
+        struct stat st {};
+        if (::fstat(fd, &st) == 0 && st.st_size > 0) {
+            void* p = ::mmap(nullptr, static_cast<std::size_t>(st.st_size), PROT_READ,
+                             MAP_PRIVATE | MAP_POPULATE, fd, 0);
+            if (p != MAP_FAILED) {
+                daten_ = static_cast<const std::uint8_t*>(p);
+                laenge_ = static_cast<std::size_t>(st.st_size);
+            }
+        }
+        ::close(fd);
+    }
+    ~Abbild() {
+        if (daten_ != nullptr)
+            ::munmap(const_cast<std::uint8_t*>(daten_), laenge_);
+    }
+    Abbild(const Abbild&) = delete;
+    Abbild& operator=(const Abbild&) = delete;
+    [[nodiscard]] std::span<const std::uint8_t> bytes() const { return {daten_, laenge_}; }
+
+private:
+    const std::uint8_t* daten_ = nullptr;
+    std::size_t laenge_ = 0;
+};
 
 std::string saetze(std::int64_t n) {
     return n == 1 ? "1 Satz" : std::to_string(n) + " Sätze";
@@ -95,9 +122,13 @@ std::optional<Schaden> laengenpruefen(const Arbeitsordner& ordner, int jahr, cha
 std::optional<Schaden> saetzepruefen(const Arbeitsordner& ordner, int jahr, char schicht) {
     for (int m = 1; m <= 12; ++m) {
         const std::string name = personendatei(jahr, schicht, m);
-        const std::vector<std::uint8_t> b = inhalt(ordner, name);
+        const Abbild abbild(ordner, name);
+        const std::span<const std::uint8_t> b = abbild.bytes();
         for (std::size_t ab = 0; ab + monatssatz <= b.size(); ab += monatssatz) {
-            const auto satz = std::span(b).subspan(ab, monatssatz);
+            const auto satz = b.subspan(ab, monatssatz);
+            // The month the file stands for: neither all FF nor all zeros, a sound record.
+            if (bytes::i16(satz, monatsfeld) == m - 1)
+                continue;
             const std::string nummer = std::to_string(ab / monatssatz + 1);
             if (std::all_of(satz.begin(), satz.end(), [](std::uint8_t c) { return c == 0xFF; }))
                 return Schaden{name, "Satz " + nummer + " besteht nur aus FF-Bytes"};
@@ -152,13 +183,14 @@ std::optional<Schaden> personendateienpruefen(const Arbeitsordner& ordner, int j
 
 std::optional<Schaden> textepruefen(const Arbeitsordner& ordner) {
     const std::string name = "Texte.txt";
-    const std::vector<std::uint8_t> b = inhalt(ordner, name);
+    const Abbild abbild(ordner, name);
+    const std::span<const std::uint8_t> b = abbild.bytes();
     for (std::int64_t nummer = 5001; nummer <= 6000; ++nummer) {
         const std::size_t ab = static_cast<std::size_t>((nummer - 1) * textsatz);
         if (ab >= b.size())
             break;
         // A record cut short at the end reads as zeros behind its bytes.
-        const auto satz = std::span(b).subspan(ab, std::min<std::size_t>(textsatz, b.size() - ab));
+        const auto satz = b.subspan(ab, std::min<std::size_t>(textsatz, b.size() - ab));
         if (std::any_of(satz.begin(), satz.end(), steuerzeichen))
             return Schaden{name, "der Name in Satz " + std::to_string(nummer) + " (Person " +
                                      std::to_string(nummer - 5000) + ") enthält Steuerzeichen"};

@@ -62,6 +62,7 @@ std::string dateiname(int nummer, int jahr, int schicht) {
 }
 
 void dateiloeschen(Sitzung& s, const std::string& name) {
+    s.lesepuffer.vergessen(s.ordner.pfad(name).native());
     if (s.vorgang.aktiv()) {
         s.vorgang.loeschen(s.ordner.pfad(name));
         return;
@@ -75,16 +76,44 @@ void dateienschliessen(Sitzung& s) {
 }
 
 namespace {
-void oeffnen(Sitzung& s, int nummer, int jahr) {
-    const auto pfad = s.ordner.pfad(dateiname(nummer, jahr, s.schicht));
+void oeffnen(Sitzung& s, Satzdatei& d, int nummer, int jahr, std::int16_t schicht) {
+    const auto pfad = s.ordner.pfad(dateiname(nummer, jahr, schicht));
     if (s.nurLesen)
-        s.datei(nummer).lesendoeffnen(pfad, satzlaengeVon(nummer));
+        d.lesendoeffnen(pfad, satzlaengeVon(nummer));
     else
-        s.datei(nummer).oeffnen(pfad, satzlaengeVon(nummer));
+        d.oeffnen(pfad, satzlaengeVon(nummer));
+}
+
+void oeffnen(Sitzung& s, int nummer, int jahr) {
+    oeffnen(s, s.datei(nummer), nummer, jahr, s.schicht);
+}
+
+bool gueltig(const Sitzung& s, std::int16_t schicht) {
+    return schicht >= INFO && schicht <= REAL && (s.jahr == 0 || s.jahr == 1997 || s.jahr == 1998);
 }
 } // namespace
 
+Personendateien personendateienoeffnen(Sitzung& s, std::int16_t schicht) {
+    Personendateien d;
+    for (Satzdatei& datei : d) {
+        datei.binden(&s.vorgang);
+        datei.binden(&s.lesepuffer);
+    }
+    if (!gueltig(s, schicht))
+        return d;
+    const int jahr = s.jahr == 1998 ? 1998 : 1997;
+    // The file the set creates beside the months: L1998x.1 in 1997, the July of 1997 in 1998.
+    if (jahr == 1997)
+        oeffnen(s, d[1], 1, 1998, schicht);
+    else
+        oeffnen(s, d[7], 7, 1997, schicht);
+    for (int nummer = 1; nummer <= datei::jahressaetze; ++nummer)
+        oeffnen(s, d[static_cast<std::size_t>(nummer)], nummer, jahr, schicht);
+    return d;
+}
+
 void dateienoeffnen(Sitzung& s) {
+    s.lesepuffer.allesvergessen();
     dateienschliessen(s);
     if (!s.nurLesen)
         s.ordner.anlegen();

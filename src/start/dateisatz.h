@@ -3,6 +3,7 @@
 
 #include "start/sitzung.h"
 
+#include <array>
 #include <string>
 
 namespace lonvir {
@@ -14,6 +15,11 @@ namespace lonvir {
 
 // Closes every file and opens the whole set for the current layer and year.
 void dateienoeffnen(Sitzung& s);
+// The person files 1 to 13 of layer `schicht` in the current year beside the open set, opened
+// as the set would open them (created when absent, and with them the file the set creates
+// beside them), writing through the session's transaction. Index = file number, 0 unused.
+using Personendateien = std::array<Satzdatei, 14>;
+[[nodiscard]] Personendateien personendateienoeffnen(Sitzung& s, std::int16_t schicht);
 // Deletes a file of the folder (matched without regard to case); inside a transaction the
 // deletion waits for its store, and the file reads as empty until then.
 void dateiloeschen(Sitzung& s, const std::string& name);

@@ -15,10 +15,15 @@ void monatsdateiSetzen(Sitzung& s) {
 }
 } // namespace
 
-Personalsatz personalsatzlesen(Sitzung& s, int dateinummer, int satznummer) {
+std::array<std::uint8_t, Personalsatz::laenge> personalsatzbytes(Sitzung& s, int dateinummer,
+                                                                 int satznummer) {
     std::array<std::uint8_t, Personalsatz::laenge> b{};
     s.datei(dateinummer).lesen(satznummer, b);
-    return Personalsatz::lesen(b);
+    return b;
+}
+
+Personalsatz personalsatzlesen(Sitzung& s, int dateinummer, int satznummer) {
+    return Personalsatz::lesen(personalsatzbytes(s, dateinummer, satznummer));
 }
 
 void personalsatzschreiben(Sitzung& s, int dateinummer, int satznummer, const Personalsatz& p) {

@@ -3,6 +3,8 @@
 
 #include "start/sitzung.h"
 
+#include <array>
+
 namespace lonvir {
 
 // Reads the current person's record of month merkmal(20) into the working set.
@@ -18,5 +20,9 @@ void eingabewerte(Sitzung& s);
 // A whole record of a month file, read or written by number (reports, transfers, year view).
 [[nodiscard]] Personalsatz personalsatzlesen(Sitzung& s, int dateinummer, int satznummer);
 void personalsatzschreiben(Sitzung& s, int dateinummer, int satznummer, const Personalsatz& p);
+// A stored month's record as it lies in the file, for a reader of a few fields
+// (Personalsatz::wertLesen).
+[[nodiscard]] std::array<std::uint8_t, Personalsatz::laenge>
+personalsatzbytes(Sitzung& s, int dateinummer, int satznummer);
 
 } // namespace lonvir

@@ -79,10 +79,13 @@ struct Stufenliste {
 };
 
 struct Sitzung {
-    // Every file of the set writes through the session's transaction while one is open.
+    // Every file of the set writes through the session's transaction while one is open, and
+    // keeps its reads for the action under way; the text table is read whole at its first use.
     Sitzung() {
-        for (Satzdatei& d : dateien)
-            d.binden(&vorgang);
+        for (std::size_t nummer = 0; nummer < dateien.size(); ++nummer) {
+            dateien[nummer].binden(&vorgang);
+            dateien[nummer].binden(&lesepuffer, nummer == datei::texte);
+        }
     }
     Sitzung(const Sitzung&) = delete;
     Sitzung& operator=(const Sitzung&) = delete;
@@ -96,6 +99,8 @@ struct Sitzung {
     Anzeige* anzeige = nullptr; // the screen that shows the rows; none in the CLI
     // The writes of the confirmed input under way, stored together at its end (Vorgang).
     Schreibvorgang vorgang;
+    // What the action under way has read from the files (Lesezeitraum, Vorgang).
+    Lesepuffer lesepuffer;
     // The folder is opened for reading only: the files are not created, and what the session
     // computes stays in memory; nothing is ever written.
     bool nurLesen = false;

@@ -11,6 +11,7 @@
 #include "start/einstellungen.h"
 #include "start/personenanlegen.h"
 #include "start/texte.h"
+#include "start/vorgang.h"
 
 #include <cstdint>
 
@@ -70,6 +71,8 @@ Startergebnis starten(Sitzung& s) {
         if (auto schaden = bestandpruefen(s.ordner, s.jahr))
             throw Bestandsschaden(*schaden);
     }
+    // The start reads the names and settings once.
+    Lesezeitraum zeitraum(s);
     s.startphase = 1;
     s.aenderungssperre = -1;
     const std::int16_t schicht = s.schicht;

@@ -4,6 +4,8 @@
 
 #include "start/sitzung.h"
 
+#include <vector>
+
 namespace lonvir {
 
 // Opens the session's transaction unless one is already open (then the outer one owns the
@@ -17,8 +19,9 @@ public:
     Vorgang(const Vorgang&) = delete;
     Vorgang& operator=(const Vorgang&) = delete;
 
-    // Stores every write of the transaction (journal, flush, apply) and ends it.
-    void abschliessen();
+    // Stores every write of the transaction (journal, flush, apply) and ends it. The store
+    // writes through the descriptors of the session's file set and of the files `auch` names.
+    void abschliessen(const std::vector<const Satzdatei*>& auch = {});
     // Whether this object opened the transaction (and so stores it).
     [[nodiscard]] bool aussen() const { return aussen_; }
 
@@ -26,6 +29,19 @@ private:
     Sitzung& s_;
     bool aussen_;
     bool fertig_ = false;
+};
+
+// One user action that reads: what it reads of the session's files is read from each file
+// once and kept until the action ends (a Vorgang is such an action as well). Actions nest.
+class Lesezeitraum {
+public:
+    explicit Lesezeitraum(Sitzung& s) : s_(s) { s_.lesepuffer.beginnen(); }
+    ~Lesezeitraum() { s_.lesepuffer.beenden(); }
+    Lesezeitraum(const Lesezeitraum&) = delete;
+    Lesezeitraum& operator=(const Lesezeitraum&) = delete;
+
+private:
+    Sitzung& s_;
 };
 
 // Runs `arbeit` as one transaction; a run-time error on the way stores nothing and says so.
