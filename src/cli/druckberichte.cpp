@@ -1,10 +1,10 @@
 // The registry of printed reports and their output as text, PDF or CSV.
 #include "cli/druckberichte.h"
 
+#include "cli/pdfausgabe.h"
 #include "core/ausgabedatei.h"
 #include "core/druckseiten.h"
 #include "core/textdrucker.h"
-#include "druck/pdfdatei.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -94,10 +94,7 @@ int druckausgabe(Kontext& k, const Druckauftrag& auftrag, std::ostream& aus) {
         if (format == Format::text) {
             inhalt = textinhalt(drucker.dokumente);
         } else {
-            druck::Druckumgebung umgebung;
-            const QByteArray pdf =
-                druck::pdferzeugen(drucker.dokumente, QString::fromStdString(auftrag.titel));
-            inhalt.assign(pdf.constData(), static_cast<std::size_t>(pdf.size()));
+            inhalt = pdfausgabe(drucker.dokumente, auftrag.titel);
         }
     }
     if (format == Format::pdf)

@@ -5,6 +5,7 @@
 #include "core/cp1252.h"
 #include "engine/berechnen.h"
 #include "start/satzzugriff.h"
+#include "start/vorgang.h"
 
 #include <iomanip>
 #include <ostream>
@@ -83,6 +84,8 @@ void gespeichertenmonatladen(Kontext& k) {
 std::unique_ptr<Form1> hauptformoeffnen(Kontext& k) {
     const long person = personoption(k);
     const long monat = k.optionen.zahl("monat", 1, 13);
+    // The lists and the month take their texts and records from one reading of each.
+    Lesezeitraum zeitraum(k.s);
     auto form = std::make_unique<Form1>(k.s);
     form->listenfuellen();
     form->namensliste();

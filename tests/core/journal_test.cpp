@@ -129,4 +129,71 @@ TEST(Journal, EineVolleFestplatteBeimAnwendenLaesstDasJournalFuerDenNaechstenSta
     EXPECT_EQ(test::dateiinhalt(t.pfad(), "b"), "neu");
 }
 
+// A store that gives every record the bytes it already holds writes nothing at all: not even
+// the journal (a full disk at the first write does not stop it).
+TEST(Journal, EinSpeichernOhneAenderungSchreibtKeinJournal) {
+    test::Tempordner t;
+    dateischreiben(t.pfad() / "a", "abcdef");
+    Schreibvorgang v;
+    v.beginnen();
+    v.schreiben(t.pfad() / "a", 2, bytes("cd"));
+    Stoerungsende ende;
+    schreibstoerung::einstellen(1);
+    EXPECT_NO_THROW(journal::festschreiben(t.pfad(), v));
+    EXPECT_EQ(test::dateiinhalt(t.pfad(), "a"), "abcdef");
+}
+
+// Of the writes only those that change bytes go into the journal; the others are left out.
+TEST(Journal, NurGeaenderteSaetzeKommenInsJournal) {
+    test::Tempordner t;
+    dateischreiben(t.pfad() / "a", "abcdef");
+    dateischreiben(t.pfad() / "b", "alt");
+    Schreibvorgang v;
+    v.beginnen();
+    v.schreiben(t.pfad() / "a", 0, bytes("ab"));
+    v.schreiben(t.pfad() / "b", 0, bytes("neu"));
+    Stoerungsende ende;
+    // The journal is the first write; applying it the second: b alone changes.
+    schreibstoerung::einstellen(3);
+    EXPECT_NO_THROW(journal::festschreiben(t.pfad(), v));
+    EXPECT_EQ(test::dateiinhalt(t.pfad(), "b"), "neu");
+    schreibstoerung::einstellen(0);
+}
+
+// Zeros written past the end of a file lengthen it, though a read there gives zeros too.
+TEST(Journal, NullenHinterDemEndeVerlaengernDieDatei) {
+    test::Tempordner t;
+    dateischreiben(t.pfad() / "a", "ab");
+    Schreibvorgang v;
+    v.beginnen();
+    v.schreiben(t.pfad() / "a", 2, std::vector<std::uint8_t>(3, 0));
+    journal::festschreiben(t.pfad(), v);
+    EXPECT_EQ(test::dateiinhalt(t.pfad(), "a"), std::string("ab\0\0\0", 5));
+}
+
+// Two writes of a file that overlap keep their order, even where one of them alone would
+// change nothing: the later restores what the earlier overwrote.
+TEST(Journal, UeberlappendeSchritteBleibenAlle) {
+    test::Tempordner t;
+    dateischreiben(t.pfad() / "a", "abcdef");
+    Schreibvorgang v;
+    v.beginnen();
+    v.schreiben(t.pfad() / "a", 0, bytes("XXXX"));
+    v.schreiben(t.pfad() / "a", 2, bytes("cd"));
+    journal::festschreiben(t.pfad(), v);
+    EXPECT_EQ(test::dateiinhalt(t.pfad(), "a"), "XXcdef");
+}
+
+// A file deleted in the store gets every write after the deletion, unchanged or not.
+TEST(Journal, NachDemLoeschenZaehltJederSchritt) {
+    test::Tempordner t;
+    dateischreiben(t.pfad() / "a", "abc");
+    Schreibvorgang v;
+    v.beginnen();
+    v.loeschen(t.pfad() / "a");
+    v.schreiben(t.pfad() / "a", 0, bytes("abc"));
+    journal::festschreiben(t.pfad(), v);
+    EXPECT_EQ(test::dateiinhalt(t.pfad(), "a"), "abc");
+}
+
 } // namespace lonvir
