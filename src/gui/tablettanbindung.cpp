@@ -222,8 +222,10 @@ void Tablettanbindung::formzeigen(const std::string& name) {
     }
     if (name == "LStrTab") {
         // The viewer keeps its inputs while it stays open; the menu and page 6 bring it up.
-        if (lstrtab_ == nullptr)
+        if (lstrtab_ == nullptr) {
             lstrtab_ = new LStrTabFenster(&f_);
+            lstrtab_->ortbinden(s_);
+        }
         lstrtab_->rechtsetzen(steuerrechtfuer(s_));
         lstrtab_->show();
         lstrtab_->raise();
