@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace lonvir {
@@ -23,7 +24,8 @@ namespace lonvir {
 namespace {
 
 struct Einstellungsfenster {
-    Einstellungsfenster() {
+    explicit Einstellungsfenster(std::int16_t jahr = 1997) {
+        s.jahr = jahr;
         s.ordner = Arbeitsordner(ordner.pfad());
         s.dialoge = &dialoge;
         s.installation = LONVIR_INSTALLATION;
@@ -77,6 +79,32 @@ TEST(Einstellungsfenster, RvSatzAufSeite63ZeigtSichSofort) {
     // 3,888.56 DM x 10.2 % = 396.63 DM, in the row and in the stored January.
     EXPECT_EQ(w.f->t(39)->text().toStdString(), "396,63-");
     EXPECT_EQ(personalsatzlesen(w.s, 1, 2).wert[39], -39663);
+}
+
+// Page 44 of 1998 carries the switch of the tax law; once stored, the caption names the law.
+TEST(Einstellungsfenster, Seite44Von1998SchaltetDasSteuerrecht1998) {
+    Einstellungsfenster w(1998);
+    EXPECT_FALSE(w.f->windowTitle().contains(QStringLiteral("Steuerrecht")));
+    w.menue("Mhochrechnung98");
+    ASSERT_TRUE(w.a->ansicht()->isVisible());
+    QComboBox* recht = w.a->ansicht()->liste(9);
+    ASSERT_TRUE(recht->isVisible());
+    EXPECT_EQ(recht->currentText().toStdString(), "Lohnsteuer nach dem Steuerrecht 1997");
+    emit recht->activated(1);
+    if (const char* ordner = std::getenv("LONVIR_BILDER"))
+        w.f->grab().save(QString::fromUtf8(ordner) + "/seite44-1998.png");
+    QTest::mouseClick(w.a->ansicht()->knopf(1), Qt::LeftButton);
+    EXPECT_FALSE(w.a->ansicht()->isVisible());
+    EXPECT_EQ(w.s.voreinstellung[34], Currency::ganz(1));
+    EXPECT_TRUE(w.f->windowTitle().endsWith(QStringLiteral("Lohnsteuer nach dem Steuerrecht 1998")))
+        << w.f->windowTitle().toStdString();
+}
+
+TEST(Einstellungsfenster, Seite44Von1997HatKeinenSchalter) {
+    Einstellungsfenster w;
+    w.menue("MHochrechnung97");
+    ASSERT_TRUE(w.a->ansicht()->isVisible());
+    EXPECT_FALSE(w.a->ansicht()->liste(9)->isVisible());
 }
 
 TEST(Einstellungsfenster, QuoteGetipptMitKomma) {
