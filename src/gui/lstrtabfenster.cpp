@@ -216,6 +216,8 @@ void LStrTabFenster::grid1_DblClick(int klasse) {
         QString::fromUtf8(klassenzeilen.at(static_cast<std::size_t>(klasse - 1))));
     freibetr_->show();
     freibetr_->raise();
+    if (klassegewaehlt)
+        klassegewaehlt(static_cast<std::int16_t>(klasse));
 }
 
 void LStrTabFenster::drucken() {

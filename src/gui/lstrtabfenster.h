@@ -9,6 +9,8 @@
 #include <QDialog>
 
 #include <array>
+#include <cstdint>
+#include <functional>
 
 class QComboBox;
 class QLabel;
@@ -46,8 +48,10 @@ public:
     void ortbinden(Sitzung& s);
     // The law every cell is computed with; the caption names its year.
     void rechtsetzen(Steuerrecht recht);
-    // A double click on the row of class `klasse` (1 to 6): the allowances of that class.
+    // A double click on the row of class `klasse` (1 to 6): the allowances of that class, and
+    // whoever listens gets the class to show its steps.
     void grid1_DblClick(int klasse);
+    std::function<void(std::int16_t klasse)> klassegewaehlt;
     // The band shown, and a range of bands from `von` to `bis` DM, each to the preview.
     void drucken();
     void bereichdrucken();

@@ -14,6 +14,7 @@
 #include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tarife.h"
+#include "reports/tabellenerklaerung.h"
 #include "screen/uebertragung.h"
 #include "screen/uebertragungsmeldung.h"
 #include "screen/voreinstellmodus.h"
@@ -225,6 +226,11 @@ void Tablettanbindung::formzeigen(const std::string& name) {
         if (lstrtab_ == nullptr) {
             lstrtab_ = new LStrTabFenster(&f_);
             lstrtab_->ortbinden(s_);
+            // A class's steps stand in the working rows of the tax panel.
+            lstrtab_->klassegewaehlt = [this](std::int16_t klasse) {
+                tabellenzeileerklaeren(s_, lstrtab_->modell(), klasse);
+                seiteoeffnen(6);
+            };
         }
         lstrtab_->rechtsetzen(steuerrechtfuer(s_));
         lstrtab_->show();
