@@ -5,6 +5,7 @@
 #include "gui/hilfefenster.h"
 #include "gui/passwortfenster.h"
 #include "gui/tablettanbindung.h"
+#include "musterfenster.h"
 #include "start/satzzugriff.h"
 #include "start/start.h"
 #include "testhilfe.h"
@@ -23,43 +24,11 @@ namespace lonvir {
 
 namespace {
 
-struct Einstellungsfenster {
-    explicit Einstellungsfenster(std::int16_t jahr = 1997) {
-        s.jahr = jahr;
-        s.ordner = Arbeitsordner(ordner.pfad());
-        s.dialoge = &dialoge;
-        s.installation = LONVIR_INSTALLATION;
-        starten(s);
-        f = std::make_unique<gui::Form1Fenster>(s, dialoge, &hilfe);
-        a = std::make_unique<gui::Tablettanbindung>(*f, s, &hilfe);
-        f->geometrieFesthalten();
-        f->laden();
-        a->menueaufbauen();
-        f->resize(1280, 800);
-        f->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(f.get()));
-        emit f->z(0)->activated(1);
-        emit f->z(20)->activated(0);
-    }
-    ~Einstellungsfenster() {
-        a.reset();
-        f.reset();
-    }
-    void menue(const char* name) {
-        QAction* aktion = f->menuBar()->findChild<QAction*>(QString::fromUtf8(name));
-        ASSERT_NE(aktion, nullptr) << name;
-        aktion->trigger();
-    }
+struct Einstellungsfenster : test::Musterfenster {
+    explicit Einstellungsfenster(std::int16_t jahr = 1997) : test::Musterfenster(jahr) {}
     QPushButton* uebertragknopf(int knopf) const {
         return f->centralWidget()->findChild<QPushButton*>(QStringLiteral("Command%1").arg(knopf));
     }
-
-    test::Tempordner ordner;
-    SkriptDialoge dialoge;
-    Sitzung s;
-    gui::HilfeFenster hilfe{QString::fromStdString(ordner.pfad().string())};
-    std::unique_ptr<gui::Form1Fenster> f;
-    std::unique_ptr<gui::Tablettanbindung> a;
 };
 
 } // namespace

@@ -11,6 +11,7 @@
 #include "gui/tablettfenster.h"
 #include "gui/tarifefenster.h"
 #include "gui/texteditfenster.h"
+#include "musterfenster.h"
 #include "start/satzzugriff.h"
 #include "start/start.h"
 #include "start/texte.h"
@@ -36,43 +37,13 @@ namespace lonvir {
 namespace {
 
 // The sample staff; person 2, Schneider, Petra, BAT VKA Vc West, January 1997.
-struct Pflegefenster {
+struct Pflegefenster : test::Musterfenster {
     Pflegefenster() {
-        s.ordner = Arbeitsordner(ordner.pfad());
-        s.dialoge = &dialoge;
-        s.installation = LONVIR_INSTALLATION;
-        starten(s);
-        f = std::make_unique<gui::Form1Fenster>(s, dialoge, &hilfe);
-        a = std::make_unique<gui::Tablettanbindung>(*f, s, &hilfe);
         QObject::connect(a.get(), &gui::Tablettanbindung::formGezeigt,
                          [this](QDialog* d) { form = d; });
-        f->geometrieFesthalten();
-        f->laden();
-        a->menueaufbauen();
-        f->resize(1280, 800);
-        f->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(f.get()));
-        emit f->z(0)->activated(1);
-        emit f->z(20)->activated(0);
     }
-    ~Pflegefenster() {
-        delete form;
-        a.reset();
-        f.reset();
-    }
-    void menue(const char* name) {
-        QAction* aktion = f->menuBar()->findChild<QAction*>(QString::fromUtf8(name));
-        ASSERT_NE(aktion, nullptr) << name;
-        aktion->trigger();
-    }
+    ~Pflegefenster() override { delete form; }
     static void enter(QWidget* w) { QTest::keyClick(w, Qt::Key_Return); }
-
-    test::Tempordner ordner;
-    SkriptDialoge dialoge;
-    Sitzung s;
-    gui::HilfeFenster hilfe{QString::fromStdString(ordner.pfad().string())};
-    std::unique_ptr<gui::Form1Fenster> f;
-    std::unique_ptr<gui::Tablettanbindung> a;
     QPointer<QDialog> form;
 };
 
