@@ -323,10 +323,10 @@ void beamtengeburtstag(Tablett& t, const Datum& geburt, int g) {
 
 void geburtstagannehmen(Tablett& t) {
     Dienstalterwerte& w = t.dienstalter;
-    const std::string text = t.Text[0].text;
-    w.geburtstag = mitschraegstrich(text);
-    const Datum geburt = datumlesen(w.geburtstag);
+    const std::string text = mitschraegstrich(t.Text[0].text);
+    const Datum geburt = datumlesen(text);
     (void)jahredazu(geburt, 1); // the test that the date can be read
+    w.geburtstag = text;
     w.geburt = geburt;
     w.berechnet = false;
     const int g = dienstaltergruppe(t.s);
@@ -375,6 +375,9 @@ int monatstaste(Tablett& t, int index, int taste) {
         }
         return taste;
     }
+    // Without an accepted birth date there is nothing to count from.
+    if (t.kasten[1].text.empty())
+        return 0;
     if (index == 1) {
         if (dienstalterbesoldungsgruppe(t.s) > 16)
             t.Text[1].text = "0";

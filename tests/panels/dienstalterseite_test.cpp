@@ -278,6 +278,14 @@ TEST(Dienstalter, MonatsfelderNurZiffernUndVierStellen) {
     EXPECT_EQ(p.u.dialoge.gezeigt()[1].text, "Es sind nur bis zu 4 Stellen zugelassen.");
 }
 
+TEST(Dienstalter, MonateZaehlenErstNachDemGeburtstag) {
+    Seite42 p;
+    p.tippen(1, "12");
+    p.tippen(2, "12");
+    EXPECT_EQ(p.t.kasten[8].text, "");
+    EXPECT_FALSE(p.t.dienstalter.berechnet);
+}
+
 TEST(Dienstalter, UnlesbaresDatumGibtSchade) {
     Seite42 p;
     p.tippen(0, "31.02.1960");
