@@ -118,19 +118,21 @@ void bruttoregler(Tablett& t) {
     }
     zeilesetzen(t, 14, textgetrimmt(s, schliessentext),
                 {100, 800 + 11 * abstand + 150, 3600, abstand});
-    // Right half: the setting of the gross amount; the three bars in place of row labels.
+    // Right half: the setting of the gross amount; the three bars in place of row labels,
+    // as wide as the half leaves beside their label and their cell.
+    const int balkenbreite = std::max(2000, t.lage.breite - rechts - 550 - 1300 - 100);
     zeilesetzen(t, 21, textgetrimmt(s, ersterText), {rechts, 100, 2600, abstand}, true);
-    kastensetzen(t, 21, {rechts + 2600, 100, 1200, abstand});
+    kastensetzen(t, 21, {rechts + 600 + balkenbreite, 100, 1200, abstand});
     const char* namen[] = {"grob", "fein", "Pfg"};
     for (int i = 1; i <= 3; ++i) {
         const int oben = 200 + i * 2 * abstand;
         zeilesetzen(t, 21 + i, namen[i - 1], {rechts, oben, 500, abstand});
         Tablettrollbalken& b = balken(t, i);
-        b.lage = {rechts + 550, oben, 2000, abstand + 40};
+        b.lage = {rechts + 550, oben, balkenbreite, abstand + 40};
         b.minimum = 0;
         b.maximum = i == 1 ? 150 : 99;
         b.sichtbar = true;
-        kastensetzen(t, 21 + i, {rechts + 2600, oben, 1200, abstand});
+        kastensetzen(t, 21 + i, {rechts + 600 + balkenbreite, oben, 1200, abstand});
         zeilesetzen(t, 24 + i, textgetrimmt(s, ersterText + 3 + i),
                     {rechts, 200 + 7 * abstand + i * abstand, 3600, abstand});
     }

@@ -500,6 +500,15 @@ void dienstalterseite(Tablett& t) {
 
 int dienstaltertaste(Tablett& t, int index, int taste) {
     const bool bat = batrechnung(dienstaltergruppe(t.s));
+    // The first key into the prefilled birth date starts the page afresh, as the focus on the
+    // field does; the key then stands alone in the field.
+    if (index == 0 && t.Text[0].text == "TT.MM.JJJJ") {
+        dienstalterfokus(t, 0);
+        const int weiter = dienstaltertaste(t, 0, taste);
+        if (weiter != 0 && weiter != 13)
+            t.Text[0].text += static_cast<char>(weiter);
+        return 0;
+    }
     try {
         if (index == 0 || index == 3 || index == 4 || (index == 1 && bat))
             return datumsfeldtaste(t, index, taste);

@@ -278,6 +278,14 @@ TEST(Dienstalter, MonatsfelderNurZiffernUndVierStellen) {
     EXPECT_EQ(p.u.dialoge.gezeigt()[1].text, "Es sind nur bis zu 4 Stellen zugelassen.");
 }
 
+TEST(Dienstalter, DieErsteTasteErsetztDieVorgabe) {
+    Seite42 p;
+    ASSERT_EQ(p.t.Text[0].text, "TT.MM.JJJJ");
+    EXPECT_EQ(p.t.text_KeyPress(0, '1'), 0);
+    EXPECT_EQ(p.t.Text[0].text, "1");
+    EXPECT_TRUE(p.u.dialoge.gezeigt().empty());
+}
+
 TEST(Dienstalter, MonateZaehlenErstNachDemGeburtstag) {
     Seite42 p;
     p.tippen(1, "12");
