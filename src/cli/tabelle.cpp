@@ -113,8 +113,8 @@ std::int64_t pfennigAus(const Optionen& o, const std::string& name) {
 
 // A range of bands, one line each, through the printer into text, PDF or CSV.
 int tabellenbereich(Kontext& k, std::ostream& aus) {
-    k.optionen.nurErlaubt(
-        {"zeitraum", "kinder", "beamte", "alter", "kirche", "recht", "von", "bis", "format", "aus"});
+    k.optionen.nurErlaubt({"zeitraum", "kinder", "beamte", "alter", "kirche", "recht", "von", "bis",
+                           "format", "aus"});
     Tabellenbereich b;
     b.auswahl = auswahlAus(k.optionen, false);
     b.von = scrollwertfuer(b.auswahl.lohnzeitraum, pfennigAus(k.optionen, "von"));

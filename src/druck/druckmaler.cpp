@@ -4,6 +4,7 @@
 #include "core/druckseiten.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -72,6 +73,26 @@ QFont druckschrift(std::string_view name, float groesse, bool fett) {
     return f;
 }
 
+// A page whose widest line runs past the printable width is drawn smaller as a whole, so that
+// no column is cut at the paper's edge (the overview of a year is 134 characters wide at 12
+// points); the page breaks stay, the page only ends higher.
+double seitenmass(const Druckdokument& dok, const Druckseite& seite, double breite) {
+    double rechts = 0;
+    const Druckstueck* letztes = nullptr;
+    QFontMetricsF masse{QFont()};
+    for (std::size_t z = seite.von; z < seite.bis; ++z)
+        for (const Druckstueck& s : dok.zeilen[z].stuecke) {
+            if (letztes == nullptr || s.schrift != letztes->schrift ||
+                s.groesse != letztes->groesse || s.fett != letztes->fett)
+                masse = QFontMetricsF(druckschrift(s.schrift, s.groesse, s.fett));
+            letztes = &s;
+            const double ende = s.x + masse.horizontalAdvance(QString::fromStdString(s.text)) *
+                                          72.0 / masse.fontDpi();
+            rechts = std::max(rechts, ende);
+        }
+    return rechts > breite ? breite / rechts : 1.0;
+}
+
 namespace {
 
 // The picture in points: a screen pixel is 1/96 inch at 100 %, as the window was drawn.
@@ -99,7 +120,6 @@ int dokumentemalen(QPagedPaintDevice& geraet, const std::vector<Druckdokument>& 
     QPainter p;
     if (!p.begin(&geraet))
         return 0;
-    Schriftwahl schrift(p);
     // Positions are points; the device counts its own dots.
     const double dpp = geraet.logicalDpiY() / 72.0;
     for (std::size_t n = 0; n < seiten.size(); ++n) {
@@ -114,6 +134,11 @@ int dokumentemalen(QPagedPaintDevice& geraet, const std::vector<Druckdokument>& 
         const Druckdokument& dok = dokumente[seite.dokument];
         if (dok.formbild && seite.von == 0)
             bildmalen(p, formbild, seite.ausrichtung == querformat ? quer : hoch, dpp);
+        const double mass =
+            seitenmass(dok, seite, (seite.ausrichtung == querformat ? quer : hoch).breite);
+        p.save();
+        p.scale(mass, mass);
+        Schriftwahl schrift(p);
         double y = 0;
         for (std::size_t z = seite.von; z < seite.bis; ++z) {
             const Druckzeile& zeile = dok.zeilen[z];
@@ -125,6 +150,7 @@ int dokumentemalen(QPagedPaintDevice& geraet, const std::vector<Druckdokument>& 
             }
             y += h;
         }
+        p.restore();
     }
     p.end();
     return static_cast<int>(seiten.size());

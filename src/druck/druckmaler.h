@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/drucker.h"
+#include "core/druckseiten.h"
 
 #include <QFont>
 #include <QImage>
@@ -19,6 +20,10 @@ namespace lonvir::druck {
 // Liberation Mono, which has its metrics, wherever that is installed.
 [[nodiscard]] QString schriftfamilie(std::string_view name);
 [[nodiscard]] QFont druckschrift(std::string_view name, float groesse, bool fett);
+
+// The factor a page is drawn at: 1, or less where its widest line, measured in the fonts it
+// is printed in, runs past `breite` points; the whole page is then drawn that much smaller.
+[[nodiscard]] double seitenmass(const Druckdokument& dok, const Druckseite& seite, double breite);
 
 // Sets A4 and the margins, then paints every document; returns the number of pages. The
 // device must not be painted on yet. A document that holds the picture of the main window

@@ -4,6 +4,7 @@
 #include "core/betragstext.h"
 #include "core/drucker.h"
 #include "druck/druckfenster.h"
+#include "reports/lstrtablage.h"
 #include "reports/tabellendruck.h"
 
 #include <QComboBox>
@@ -12,6 +13,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QHideEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -19,6 +21,8 @@
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace lonvir::gui {
 
@@ -145,6 +149,26 @@ LStrTabFenster::LStrTabFenster(QWidget* eltern) : QDialog(eltern) {
     auswahlgeaendert();
 }
 
+static double twipsjepixel(const QWidget* w) {
+    return 1440.0 / std::max(1.0, static_cast<double>(w->logicalDpiX()));
+}
+
+void LStrTabFenster::ortbinden(Sitzung& s) {
+    sitzung_ = &s;
+    const Fensterort ort = lstrtablage(s);
+    const double tpp = twipsjepixel(this);
+    move(static_cast<int>(ort.links / tpp), static_cast<int>(ort.oben / tpp));
+}
+
+void LStrTabFenster::hideEvent(QHideEvent* ereignis) {
+    // Form_Unload: the place goes to the display settings.
+    if (sitzung_ != nullptr) {
+        const double tpp = twipsjepixel(this);
+        lstrtablagespeichern(*sitzung_, {static_cast<int>(y() * tpp), static_cast<int>(x() * tpp)});
+    }
+    QDialog::hideEvent(ereignis);
+}
+
 void LStrTabFenster::rechtsetzen(Steuerrecht recht) {
     setWindowTitle(u8(lstrtabTitelFuer(recht)));
     if (t_.auswahl.recht == recht)
@@ -192,6 +216,8 @@ void LStrTabFenster::grid1_DblClick(int klasse) {
         QString::fromUtf8(klassenzeilen.at(static_cast<std::size_t>(klasse - 1))));
     freibetr_->show();
     freibetr_->raise();
+    if (klassegewaehlt)
+        klassegewaehlt(static_cast<std::int16_t>(klasse));
 }
 
 void LStrTabFenster::drucken() {

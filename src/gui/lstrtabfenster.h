@@ -4,10 +4,13 @@
 
 #include "reports/freibetraege.h"
 #include "reports/lohnsteuertabelle.h"
+#include "reports/lstrtablage.h"
 
 #include <QDialog>
 
 #include <array>
+#include <cstdint>
+#include <functional>
 
 class QComboBox;
 class QLabel;
@@ -40,13 +43,21 @@ public:
     [[nodiscard]] QLabel* label2() const { return label2_; }
     [[nodiscard]] FreibetrFenster* freibetr() const { return freibetr_; }
 
+    // The session whose display settings keep the viewer's place: it moves there now, and
+    // goes back there whenever it is hidden.
+    void ortbinden(Sitzung& s);
     // The law every cell is computed with; the caption names its year.
     void rechtsetzen(Steuerrecht recht);
-    // A double click on the row of class `klasse` (1 to 6): the allowances of that class.
+    // A double click on the row of class `klasse` (1 to 6): the allowances of that class, and
+    // whoever listens gets the class to show its steps.
     void grid1_DblClick(int klasse);
+    std::function<void(std::int16_t klasse)> klassegewaehlt;
     // The band shown, and a range of bands from `von` to `bis` DM, each to the preview.
     void drucken();
     void bereichdrucken();
+
+protected:
+    void hideEvent(QHideEvent* ereignis) override;
 
 private:
     void auswahlgeaendert();
@@ -59,6 +70,7 @@ private:
     QLabel* label2_ = nullptr;
     QTableWidget* grid1_ = nullptr;
     FreibetrFenster* freibetr_ = nullptr;
+    Sitzung* sitzung_ = nullptr;
 };
 
 } // namespace lonvir::gui

@@ -15,6 +15,7 @@
 #include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tarife.h"
+#include "reports/tabellenerklaerung.h"
 #include "screen/uebertragung.h"
 #include "screen/uebertragungsmeldung.h"
 #include "screen/voreinstellmodus.h"
@@ -249,8 +250,15 @@ void Tablettanbindung::formzeigen(const std::string& name) {
     }
     if (name == "LStrTab") {
         // The viewer keeps its inputs while it stays open; the menu and page 6 bring it up.
-        if (lstrtab_ == nullptr)
+        if (lstrtab_ == nullptr) {
             lstrtab_ = new LStrTabFenster(&f_);
+            lstrtab_->ortbinden(s_);
+            // A class's steps stand in the working rows of the tax panel.
+            lstrtab_->klassegewaehlt = [this](std::int16_t klasse) {
+                tabellenzeileerklaeren(s_, lstrtab_->modell(), klasse);
+                seiteoeffnen(6);
+            };
+        }
         lstrtab_->rechtsetzen(steuerrechtfuer(s_));
         lstrtab_->show();
         lstrtab_->raise();

@@ -133,4 +133,41 @@ TEST(CliEinstellungen, ZeigtDenSchalterDesSteuerrechts1998) {
     EXPECT_TRUE(enthaelt(j.aus, "\"steuerrecht1998\":0")) << j.aus;
 }
 
+// Page 44 of 1998 sets the switch: Combo(9), "Steuerrecht 1998 anwenden", stored as element 34
+// of the record of 1998 alone; the record of 1997 keeps every byte, and its page has no switch.
+TEST(CliEinstellungen, Seite44Von1998SchaltetDasSteuerrecht1998) {
+    test::Tempordner t;
+    const std::string o = " --ordner " + t.pfad().string();
+    ASSERT_EQ(clilauf("einstellungen --jahr 1998" + o).status, 0);
+    const std::string vorher = test::dateiinhalt(t.pfad(), "Lonvir97.voe");
+    const test::Clilauf l =
+        clilauf("einstellungen --jahr 1998 --seite 44 --feld 9 --auswahl 1" + o);
+    ASSERT_EQ(l.status, 0) << l.aus;
+    EXPECT_TRUE(enthaelt(l.aus, "steuerrecht1998 = 1")) << l.aus;
+    EXPECT_TRUE(enthaelt(l.aus, "voreinstellung(34) = 1.0000  Steuerrecht 1998 anwenden  "
+                                "\"Steuerrecht 1998 anwenden\""))
+        << l.aus;
+    EXPECT_TRUE(enthaelt(l.aus, "Lohnsteuer nach dem Steuerrecht 1998")) << l.aus;
+    const std::string nachher = test::dateiinhalt(t.pfad(), "Lonvir97.voe");
+    ASSERT_EQ(nachher.size(), vorher.size());
+    // Record 1 (1997) unchanged; record 2 (1998) differs in element 34 only.
+    EXPECT_EQ(nachher.substr(0, 648), vorher.substr(0, 648));
+    EXPECT_NE(nachher.substr(648, 648), vorher.substr(648, 648));
+    const test::Clilauf aus =
+        clilauf("einstellungen --jahr 1998 --seite 44 --feld 9 --auswahl 0" + o);
+    ASSERT_EQ(aus.status, 0) << aus.aus;
+    EXPECT_TRUE(enthaelt(aus.aus, "steuerrecht1998 = 0")) << aus.aus;
+    EXPECT_EQ(test::dateiinhalt(t.pfad(), "Lonvir97.voe").substr(648, 648),
+              vorher.substr(648, 648));
+}
+
+TEST(CliEinstellungen, Seite44Von1997HatKeinenSchalterDesSteuerrechts) {
+    test::Tempordner t;
+    const std::string o = " --ordner " + t.pfad().string();
+    const test::Clilauf l = clilauf("einstellungen --seite 44 --feld 9 --auswahl 1" + o, true);
+    EXPECT_EQ(l.status, 2) << l.aus;
+    EXPECT_TRUE(enthaelt(l.aus, "hat keine Liste Combo(9)")) << l.aus;
+    EXPECT_FALSE(enthaelt(clilauf("einstellungen" + o).aus, "voreinstellung(34)"));
+}
+
 } // namespace lonvir

@@ -6,6 +6,7 @@
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
 #include "gui/tablettanbindung.h"
+#include "musterfenster.h"
 #include "reports/abzuegedrucken.h"
 #include "start/start.h"
 #include "testhilfe.h"
@@ -26,28 +27,7 @@ namespace lonvir {
 namespace {
 
 // Person 2 of the sample staff, Schneider, Petra, January 1997, in the window.
-struct Druckfenster {
-    Druckfenster() {
-        s.ordner = Arbeitsordner(ordner.pfad());
-        s.dialoge = &dialoge;
-        s.installation = LONVIR_INSTALLATION;
-        starten(s);
-        f = std::make_unique<gui::Form1Fenster>(s, dialoge, &hilfe);
-        a = std::make_unique<gui::Tablettanbindung>(*f, s, &hilfe);
-        f->geometrieFesthalten();
-        f->laden();
-        a->menueaufbauen();
-        f->resize(1280, 800);
-        f->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(f.get()));
-        emit f->z(0)->activated(1);
-        emit f->z(20)->activated(0);
-    }
-    ~Druckfenster() {
-        a.reset();
-        f.reset();
-    }
-
+struct Druckfenster : test::Musterfenster {
     // What the preview showed when the entry opened it; the preview is closed again.
     struct Gesehen {
         bool vorschau = false;
@@ -75,13 +55,6 @@ struct Druckfenster {
             aktion->trigger();
         return g;
     }
-
-    test::Tempordner ordner;
-    SkriptDialoge dialoge;
-    Sitzung s;
-    gui::HilfeFenster hilfe{QString::fromStdString(ordner.pfad().string())};
-    std::unique_ptr<gui::Form1Fenster> f;
-    std::unique_ptr<gui::Tablettanbindung> a;
 };
 
 bool enthaelt(const std::vector<Druckdokument>& dokumente, const std::string& text) {

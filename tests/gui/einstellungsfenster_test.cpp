@@ -5,6 +5,7 @@
 #include "gui/hilfefenster.h"
 #include "gui/passwortfenster.h"
 #include "gui/tablettanbindung.h"
+#include "musterfenster.h"
 #include "start/satzzugriff.h"
 #include "start/start.h"
 #include "testhilfe.h"
@@ -16,48 +17,18 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace lonvir {
 
 namespace {
 
-struct Einstellungsfenster {
-    Einstellungsfenster() {
-        s.ordner = Arbeitsordner(ordner.pfad());
-        s.dialoge = &dialoge;
-        s.installation = LONVIR_INSTALLATION;
-        starten(s);
-        f = std::make_unique<gui::Form1Fenster>(s, dialoge, &hilfe);
-        a = std::make_unique<gui::Tablettanbindung>(*f, s, &hilfe);
-        f->geometrieFesthalten();
-        f->laden();
-        a->menueaufbauen();
-        f->resize(1280, 800);
-        f->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(f.get()));
-        emit f->z(0)->activated(1);
-        emit f->z(20)->activated(0);
-    }
-    ~Einstellungsfenster() {
-        a.reset();
-        f.reset();
-    }
-    void menue(const char* name) {
-        QAction* aktion = f->menuBar()->findChild<QAction*>(QString::fromUtf8(name));
-        ASSERT_NE(aktion, nullptr) << name;
-        aktion->trigger();
-    }
+struct Einstellungsfenster : test::Musterfenster {
+    explicit Einstellungsfenster(std::int16_t jahr = 1997) : test::Musterfenster(jahr) {}
     QPushButton* uebertragknopf(int knopf) const {
         return f->centralWidget()->findChild<QPushButton*>(QStringLiteral("Command%1").arg(knopf));
     }
-
-    test::Tempordner ordner;
-    SkriptDialoge dialoge;
-    Sitzung s;
-    gui::HilfeFenster hilfe{QString::fromStdString(ordner.pfad().string())};
-    std::unique_ptr<gui::Form1Fenster> f;
-    std::unique_ptr<gui::Tablettanbindung> a;
 };
 
 } // namespace
@@ -77,6 +48,32 @@ TEST(Einstellungsfenster, RvSatzAufSeite63ZeigtSichSofort) {
     // 3,888.56 DM x 10.2 % = 396.63 DM, in the row and in the stored January.
     EXPECT_EQ(w.f->t(39)->text().toStdString(), "396,63-");
     EXPECT_EQ(personalsatzlesen(w.s, 1, 2).wert[39], -39663);
+}
+
+// Page 44 of 1998 carries the switch of the tax law; once stored, the caption names the law.
+TEST(Einstellungsfenster, Seite44Von1998SchaltetDasSteuerrecht1998) {
+    Einstellungsfenster w(1998);
+    EXPECT_FALSE(w.f->windowTitle().contains(QStringLiteral("Steuerrecht")));
+    w.menue("Mhochrechnung98");
+    ASSERT_TRUE(w.a->ansicht()->isVisible());
+    QComboBox* recht = w.a->ansicht()->liste(9);
+    ASSERT_TRUE(recht->isVisible());
+    EXPECT_EQ(recht->currentText().toStdString(), "Lohnsteuer nach dem Steuerrecht 1997");
+    emit recht->activated(1);
+    if (const char* ordner = std::getenv("LONVIR_BILDER"))
+        w.f->grab().save(QString::fromUtf8(ordner) + "/seite44-1998.png");
+    QTest::mouseClick(w.a->ansicht()->knopf(1), Qt::LeftButton);
+    EXPECT_FALSE(w.a->ansicht()->isVisible());
+    EXPECT_EQ(w.s.voreinstellung[34], Currency::ganz(1));
+    EXPECT_TRUE(w.f->windowTitle().endsWith(QStringLiteral("Lohnsteuer nach dem Steuerrecht 1998")))
+        << w.f->windowTitle().toStdString();
+}
+
+TEST(Einstellungsfenster, Seite44Von1997HatKeinenSchalter) {
+    Einstellungsfenster w;
+    w.menue("MHochrechnung97");
+    ASSERT_TRUE(w.a->ansicht()->isVisible());
+    EXPECT_FALSE(w.a->ansicht()->liste(9)->isVisible());
 }
 
 TEST(Einstellungsfenster, QuoteGetipptMitKomma) {

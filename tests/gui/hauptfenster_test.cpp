@@ -5,6 +5,7 @@
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
 #include "gui/tablettanbindung.h"
+#include "musterfenster.h"
 #include "screen/hauptmenue.h"
 #include "start/start.h"
 #include "start/texte.h"
@@ -31,29 +32,8 @@ namespace {
 
 // A folder seeded with the installation data; person 2, Schneider, Petra, BAT VKA Vc West,
 // January 1997, in the window with the panel and the help window.
-struct Arbeitsplatz {
-    Arbeitsplatz() {
-        s.ordner = Arbeitsordner(ordner.pfad());
-        s.dialoge = &dialoge;
-        s.installation = LONVIR_INSTALLATION;
-        starten(s);
-        f = std::make_unique<gui::Form1Fenster>(s, dialoge, &hilfe);
-        a = std::make_unique<gui::Tablettanbindung>(*f, s, &hilfe);
-        f->geometrieFesthalten();
-        f->laden();
-        a->menueaufbauen();
-        f->setWindowState(Qt::WindowNoState);
-        f->resize(1280, 800);
-        f->show();
-        QApplication::setActiveWindow(f.get());
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(f.get()));
-        emit f->z(0)->activated(1);
-        emit f->z(20)->activated(0);
-    }
-    ~Arbeitsplatz() {
-        a.reset();
-        f.reset();
-    }
+struct Arbeitsplatz : test::Musterfenster {
+    Arbeitsplatz() { QApplication::setActiveWindow(f.get()); }
     void menue(const char* name) { a->menueklick(name); }
     QWidget* panel3d2() const {
         return f->centralWidget()->findChild<QWidget*>(QStringLiteral("Panel3D2"));
@@ -64,13 +44,6 @@ struct Arbeitsplatz {
                 return k;
         return nullptr;
     }
-
-    test::Tempordner ordner;
-    SkriptDialoge dialoge;
-    Sitzung s;
-    gui::HilfeFenster hilfe{QString::fromStdString(ordner.pfad().string())};
-    std::unique_ptr<gui::Form1Fenster> f;
-    std::unique_ptr<gui::Tablettanbindung> a;
 };
 
 // The texts of the rows that do not fit their boxes, as "row: text".

@@ -2,6 +2,10 @@
 // the grid shows its cells, a double click shows the allowances of the class.
 #include "gui/lstrtabfenster.h"
 
+#include "core/dialoge.h"
+#include "start/start.h"
+#include "testhilfe.h"
+
 #include <QComboBox>
 #include <QLabel>
 #include <QScrollBar>
@@ -61,6 +65,49 @@ TEST(LStrTabFenster, DoppelklickZeigtDieFreibetraegeDerKlasse) {
     EXPECT_EQ(f.freibetr()->grid1()->item(4, 1)->text(), QStringLiteral("5.616,00"));
     EXPECT_EQ(f.freibetr()->grid1()->item(0, 1)->text(), QStringLiteral("54.000,00"));
     bild(*f.freibetr(), "freibetr.png");
+}
+
+// The viewer opens where the display settings place it and, hidden, leaves its place there:
+// 15 twips a pixel at 96 dpi.
+TEST(LStrTabFenster, StehtWoEsGeschlossenWurde) {
+    test::Tempordner ordner;
+    SkriptDialoge dialoge;
+    Sitzung s;
+    s.ordner = Arbeitsordner(ordner.pfad());
+    s.dialoge = &dialoge;
+    s.installation = LONVIR_INSTALLATION;
+    starten(s);
+    s.dim.lstrtabtop = Currency::ganz(1500);
+    s.dim.lstrtableft = Currency::ganz(3000);
+    gui::LStrTabFenster f;
+    f.ortbinden(s);
+    const double tpp = 1440.0 / f.logicalDpiX();
+    EXPECT_EQ(f.pos(), QPoint(static_cast<int>(3000 / tpp), static_cast<int>(1500 / tpp)));
+    f.show();
+    f.move(40, 60);
+    f.close();
+    EXPECT_EQ(s.dim.lstrtabtop, Currency::ganz(static_cast<int>(60 * tpp)));
+    EXPECT_EQ(s.dim.lstrtableft, Currency::ganz(static_cast<int>(40 * tpp)));
+    Sitzung neu;
+    neu.ordner = s.ordner;
+    neu.dialoge = &dialoge;
+    starten(neu);
+    EXPECT_EQ(neu.dim.lstrtabtop, s.dim.lstrtabtop);
+}
+
+// In 1998 with the law of 1998 switched on, the caption and every cell follow that law.
+TEST(LStrTabFenster, DasSteuerrecht1998StehtImTitelUndInDenZellen) {
+    gui::LStrTabFenster f;
+    f.combo(1)->setCurrentIndex(1);
+    f.hscroll1()->setValue(888);
+    const QString lohnsteuer1997 = f.grid1()->item(0, 0)->text();
+    f.rechtsetzen(Steuerrecht::recht1998);
+    EXPECT_EQ(f.windowTitle(), QStringLiteral("Lohnsteuer-Tabelle 1998"));
+    EXPECT_EQ(f.modell().auswahl.recht, Steuerrecht::recht1998);
+    EXPECT_NE(f.grid1()->item(0, 0)->text(), lohnsteuer1997);
+    f.rechtsetzen(Steuerrecht::recht1997);
+    EXPECT_EQ(f.windowTitle(), QStringLiteral("Lohnsteuer-Tabelle 1997"));
+    EXPECT_EQ(f.grid1()->item(0, 0)->text(), lohnsteuer1997);
 }
 
 } // namespace lonvir

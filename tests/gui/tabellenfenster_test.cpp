@@ -6,9 +6,13 @@
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
 #include "gui/kvfenster.h"
+#include "gui/lstrtabfenster.h"
 #include "gui/tablettanbindung.h"
+#include "gui/tablettfenster.h"
 #include "gui/tarifefenster.h"
 #include "gui/texteditfenster.h"
+#include "musterfenster.h"
+#include "start/satzzugriff.h"
 #include "start/start.h"
 #include "start/texte.h"
 #include "testhilfe.h"
@@ -25,6 +29,7 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace lonvir {
@@ -32,43 +37,13 @@ namespace lonvir {
 namespace {
 
 // The sample staff; person 2, Schneider, Petra, BAT VKA Vc West, January 1997.
-struct Pflegefenster {
+struct Pflegefenster : test::Musterfenster {
     Pflegefenster() {
-        s.ordner = Arbeitsordner(ordner.pfad());
-        s.dialoge = &dialoge;
-        s.installation = LONVIR_INSTALLATION;
-        starten(s);
-        f = std::make_unique<gui::Form1Fenster>(s, dialoge, &hilfe);
-        a = std::make_unique<gui::Tablettanbindung>(*f, s, &hilfe);
         QObject::connect(a.get(), &gui::Tablettanbindung::formGezeigt,
                          [this](QDialog* d) { form = d; });
-        f->geometrieFesthalten();
-        f->laden();
-        a->menueaufbauen();
-        f->resize(1280, 800);
-        f->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(f.get()));
-        emit f->z(0)->activated(1);
-        emit f->z(20)->activated(0);
     }
-    ~Pflegefenster() {
-        delete form;
-        a.reset();
-        f.reset();
-    }
-    void menue(const char* name) {
-        QAction* aktion = f->menuBar()->findChild<QAction*>(QString::fromUtf8(name));
-        ASSERT_NE(aktion, nullptr) << name;
-        aktion->trigger();
-    }
+    ~Pflegefenster() override { delete form; }
     static void enter(QWidget* w) { QTest::keyClick(w, Qt::Key_Return); }
-
-    test::Tempordner ordner;
-    SkriptDialoge dialoge;
-    Sitzung s;
-    gui::HilfeFenster hilfe{QString::fromStdString(ordner.pfad().string())};
-    std::unique_ptr<gui::Form1Fenster> f;
-    std::unique_ptr<gui::Tablettanbindung> a;
     QPointer<QDialog> form;
 };
 
@@ -93,6 +68,29 @@ TEST(TabellenFenster, EinUmbenannterNameStehtSofortInDerNamensliste) {
     EXPECT_EQ(w.f->z(0)->currentText(), QStringLiteral("Schneider-Roth, Petra"));
     t->close();
     EXPECT_EQ(w.f->z(0)->count(), 20);
+}
+
+// A double click on class I of the table viewer runs that class alone and shows its steps in
+// the tax panel; the person's stored month stays as it was.
+TEST(TabellenFenster, DoppelklickAufEineKlasseZeigtIhreSchritteImSteuerblatt) {
+    Pflegefenster w;
+    const Personalsatz vorher = personalsatzlesen(w.s, 1, 2);
+    w.menue("MLstrTab");
+    auto* t = dynamic_cast<gui::LStrTabFenster*>(w.form.data());
+    ASSERT_NE(t, nullptr);
+    t->combo(1)->setCurrentIndex(1);
+    t->hscroll1()->setValue(888);
+    t->grid1_DblClick(1);
+    ASSERT_TRUE(w.a->ansicht()->isVisible());
+    EXPECT_EQ(w.s.Tablettseite, 6);
+    EXPECT_EQ(w.a->ansicht()->kasten(1)->text().trimmed(), QStringLiteral("3.996,16+"));
+    EXPECT_EQ(w.a->ansicht()->kasten(8)->text().trimmed(), QStringLiteral("3.996,16+"));
+    EXPECT_EQ(w.a->ansicht()->kasten(10)->text().trimmed(), QStringLiteral("710,25+"));
+    EXPECT_EQ(w.a->ansicht()->kasten(11)->text().trimmed(), QStringLiteral("53,26+"));
+    EXPECT_EQ(personalsatzlesen(w.s, 1, 2).wert, vorher.wert);
+    if (const char* ordner = std::getenv("LONVIR_BILDER"))
+        w.f->grab().save(QString::fromUtf8(ordner) + "/lstrtab-klasse1-seite6.png");
+    t->close();
 }
 
 TEST(TabellenFenster, EinKvSatzErreichtDenMonatAufDemSchirm) {

@@ -6,6 +6,7 @@
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
 #include "gui/tablettanbindung.h"
+#include "musterfenster.h"
 #include "start/dateisatz.h"
 #include "start/satzzugriff.h"
 #include "start/start.h"
@@ -28,36 +29,7 @@ namespace {
 
 // A folder seeded with the installation data and its sample staff; person 2, Schneider,
 // Petra, BAT VKA Vc West, January 1997, shown in the window with the panel beside it.
-struct Musterfenster {
-    Musterfenster() {
-        s.ordner = Arbeitsordner(ordner.pfad());
-        s.dialoge = &dialoge;
-        s.installation = LONVIR_INSTALLATION;
-        starten(s);
-        f = std::make_unique<gui::Form1Fenster>(s, dialoge, &hilfe);
-        a = std::make_unique<gui::Tablettanbindung>(*f, s, &hilfe);
-        f->geometrieFesthalten();
-        f->laden();
-        a->menueaufbauen();
-        f->resize(1280, 800);
-        f->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(f.get()));
-        emit f->z(0)->activated(1);
-        emit f->z(20)->activated(0);
-    }
-    ~Musterfenster() {
-        a.reset();
-        f.reset();
-    }
-    void menue(const char* name) {
-        QAction* aktion = f->menuBar()->findChild<QAction*>(QString::fromUtf8(name));
-        if (aktion == nullptr) // entries on the bar itself belong to the window
-            for (QAction* x : f->menuBar()->actions())
-                if (x->objectName() == QString::fromUtf8(name))
-                    aktion = x;
-        ASSERT_NE(aktion, nullptr) << name;
-        aktion->trigger();
-    }
+struct Musterfenster : test::Musterfenster {
     QWidget* panel3d2() const {
         return f->centralWidget()->findChild<QWidget*>(QStringLiteral("Panel3D2"));
     }
@@ -65,13 +37,6 @@ struct Musterfenster {
     std::string kasten(int i) const {
         return a->ansicht()->kasten(i)->text().trimmed().toStdString();
     }
-
-    test::Tempordner ordner;
-    SkriptDialoge dialoge;
-    Sitzung s;
-    gui::HilfeFenster hilfe{QString::fromStdString(ordner.pfad().string())};
-    std::unique_ptr<gui::Form1Fenster> f;
-    std::unique_ptr<gui::Tablettanbindung> a;
 };
 
 } // namespace
