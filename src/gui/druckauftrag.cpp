@@ -5,6 +5,7 @@
 #include "druck/druckfenster.h"
 #include "panels/arbeitsblaetter.h"
 #include "reports/abzuegedrucken.h"
+#include "reports/bdadrucken.h"
 #include "reports/beitragsnachweis.h"
 #include "reports/gehaltdrucken.h"
 #include "reports/grafikdrucken.h"
@@ -82,6 +83,14 @@ void druckauftrag(Form1Fenster& fenster, Sitzung& s, const std::string& name) {
             return;
         }
     }
+}
+
+void bdadruckauftrag(Form1Fenster& fenster, Sitzung& s, const Dienstalterblatt& blatt) {
+    Merkdrucker d;
+    bdadrucken(s, blatt, d);
+    vorschauzeigen(fenster, d,
+                   QStringLiteral("Berechnung des Besoldungsdienstalters (BDA) ") +
+                       QString::fromStdString(blatt.name));
 }
 
 } // namespace lonvir::gui

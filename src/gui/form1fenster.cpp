@@ -1,6 +1,8 @@
 // The widgets of Form1 and how their events reach the model.
 #include "gui/form1fenster.h"
 
+#include "gui/rechneransicht.h"
+
 #include "core/laufzeitfehler.h"
 #include "core/programmende.h"
 #include "gui/farben.h"
@@ -104,6 +106,8 @@ void Form1Fenster::aufbauen() {
     panel3D6_->setObjectName(QStringLiteral("Panel3D6"));
     panel3D6_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     panel3D6_->setStyleSheet(QStringLiteral("background: #C0C0C0; color: #000080;"));
+    rechneransicht_ = new RechnerAnsicht(
+        rechner_, [this](const std::function<void()>& h) { ausfuehren(h); }, mitte_);
 
     for (int zeile = 0; zeile <= 45; ++zeile) {
         QWidget* spalte = zeile <= 22 ? panel3D1_ : panel3D2_;
@@ -460,6 +464,7 @@ void Form1Fenster::darstellen() {
     if (bdaBeginn_->text() != text(b.bdabeginn))
         bdaBeginn_->setText(text(b.bdabeginn));
     panel3D6_->setText(QStringLiteral(" ") + text(b.hinweis));
+    rechneransicht_->darstellen();
     kopfDarstellen();
     fokusUebergeben();
     darstellend_ = false;

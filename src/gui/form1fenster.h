@@ -4,6 +4,7 @@
 
 #include "gui/qtdialoge.h"
 #include "screen/form1.h"
+#include "screen/rechner.h"
 
 #include <QElapsedTimer>
 #include <QEvent>
@@ -51,6 +52,8 @@ public:
     [[nodiscard]] QLabel* picture1() const { return picture1_; }
     [[nodiscard]] QWidget* kopf() const { return kopf_; }
     [[nodiscard]] QPushButton* command7() const { return command7_; }
+    [[nodiscard]] Rechner& rechner() { return rechner_; }
+    [[nodiscard]] class RechnerAnsicht* rechneransicht() const { return rechneransicht_; }
 
 signals:
     // The transfer buttons and the remark card belong to the navigation of the layers.
@@ -102,6 +105,7 @@ private:
 
     Sitzung& s_;
     Form1 modell_;
+    Rechner rechner_{modell_}; // the calculator; the form's keys reach it
     std::array<Zeile, 46> zeilen_;
     std::array<std::array<QCheckBox*, 13>, 6> schalter_{};
     QWidget* mitte_ = nullptr;
@@ -109,6 +113,7 @@ private:
     QWidget* panel3D1_ = nullptr;
     QWidget* panel3D2_ = nullptr;
     QLabel* panel3D6_ = nullptr;
+    class RechnerAnsicht* rechneransicht_ = nullptr;
     QLabel* schalterkopf_ = nullptr;
     QLineEdit* bdaBeginn_ = nullptr;
     QLabel* picture1_ = nullptr;

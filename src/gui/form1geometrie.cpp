@@ -1,6 +1,7 @@
 // The geometry of Form1: rows divided evenly over the window's height, fonts that follow the
 // size of the window, the window's place kept in the display settings.
 #include "gui/form1fenster.h"
+#include "gui/rechneransicht.h"
 
 #include "screen/fensterlage.h"
 #include "start/einstellungen.h"
@@ -27,7 +28,8 @@ namespace {
 // each of the 23 rows of a column, one for the hint panel at the foot.
 constexpr double kopfslots = 2.0;
 constexpr double plaetze = 26.0;
-constexpr double linkerAnteil = 0.56; // Panel3D1's share of the width
+constexpr double linkerAnteil = 0.56;  // Panel3D1's share of the width
+constexpr double hinweisAnteil = 0.40; // the hint panel's share of the foot
 
 // Cells of the left column as parts of its width.
 constexpr double listeBis = 0.44;
@@ -107,8 +109,12 @@ void Form1Fenster::bildausrechnen(bool erzwingen) {
                            static_cast<int>(23 * h));
     panel3D2_->setGeometry(static_cast<int>(links), static_cast<int>(kopfslots * h),
                            static_cast<int>(rechts), static_cast<int>(23 * h));
-    panel3D6_->setGeometry(0, static_cast<int>((kopfslots + 23) * h), groesse.width(),
+    // The foot: the hint panel, and beside it the pocket calculator.
+    const int hinweisbreite = static_cast<int>(breite * hinweisAnteil);
+    panel3D6_->setGeometry(0, static_cast<int>((kopfslots + 23) * h), hinweisbreite,
                            static_cast<int>(h));
+    rechneransicht_->setGeometry(hinweisbreite, static_cast<int>((kopfslots + 23) * h),
+                                 groesse.width() - hinweisbreite, static_cast<int>(h));
 
     // Fonts: as large as the row height allows, and no wider than the cells.
     const int hoechste = static_cast<int>(h * 0.62);

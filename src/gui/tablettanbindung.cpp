@@ -11,6 +11,7 @@
 #include "gui/passwortfenster.h"
 #include "gui/tarifefenster.h"
 #include "gui/texteditfenster.h"
+#include "panels/dienstalterseite.h"
 #include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tarife.h"
@@ -55,6 +56,13 @@ Tablettanbindung::Tablettanbindung(Form1Fenster& fenster, Sitzung& s, Hilfe* hil
     connect(&f_, &Form1Fenster::uebertragGeklickt, this,
             [this](int von, int nach) { uebertragknopf(von, nach); });
     t_.linkespalteauffrischen = [this] { f_.modell().bildauffrischen(); };
+    // Page 42 carries its result through the main screen's own handlers.
+    t_.auswahlsetzen = [this](int zeile, int position) {
+        f_.modell().auswahltreffen(zeile, position);
+    };
+    t_.bdauebernehmen = [this](const std::string& text) { f_.modell().bdatippen(text); };
+    // A click anywhere outside the panel leaves the gross slider (the panel's deactivation).
+    qApp->installEventFilter(this);
     t_.voreinstellmodus = [this](int von, int bis) {
         voreinstellmodusbeginnen(f_.modell(), von, bis);
     };
@@ -108,7 +116,18 @@ Hauptbildauftrag Tablettanbindung::hauptbildauftrag() {
     return a;
 }
 
+bool Tablettanbindung::eventFilter(QObject* objekt, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::MouseButtonPress && s_.bruttomodus == 1 && t_.sichtbar) {
+        const auto* w = qobject_cast<QWidget*>(objekt);
+        if (w != nullptr && w->window() == f_.window() && w != ansicht_ &&
+            !ansicht_->isAncestorOf(w))
+            ausfuehren([this] { t_.Form_Deactivate(); });
+    }
+    return QObject::eventFilter(objekt, ereignis);
+}
+
 Tablettanbindung::~Tablettanbindung() {
+    qApp->removeEventFilter(this);
     if (s_.anzeige == this)
         s_.anzeige = &f_.modell();
 }
@@ -152,6 +171,14 @@ void Tablettanbindung::darstellen() {
         ansicht_->raise();
     if (QWidget* p2 = f_.centralWidget()->findChild<QWidget*>(QStringLiteral("Panel3D2")))
         p2->setVisible(lage_.panel3d2sichtbar);
+    if (t_.druckwunsch == std::optional<std::string>("bda")) {
+        // The sheet of page 42 shows its preview once the click is over.
+        t_.druckwunsch.reset();
+        QTimer::singleShot(0, this, [this] {
+            const Dienstalterblatt blatt = dienstalterblatt(t_);
+            ausfuehren([&] { bdadruckauftrag(f_, s_, blatt); });
+        });
+    }
     if (t_.formwunsch == std::optional<std::string>("Form2")) {
         // The totals chosen on page 66 open once the click is over.
         t_.formwunsch.reset();

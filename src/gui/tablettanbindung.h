@@ -40,6 +40,9 @@ public:
     // Shows the annual overview "Form3" or the totals "Form2" (their own unit).
     std::function<void(const std::string&)> uebersichtzeigen;
 
+protected:
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+
 signals:
     // A form of its own (tariffs, rates, texts) has been shown.
     void formGezeigt(QDialog* form);

@@ -103,6 +103,11 @@ TablettFenster::TablettFenster(Tablett& modell,
     for (std::size_t i = 0; i < 3; ++i) {
         rollbalken_[i] = new QScrollBar(Qt::Horizontal, this);
         rollbalken_[i]->setObjectName(QStringLiteral("HScroll%1").arg(i + 1));
+        // Change and Scroll of a bar are one event here: the model's update of page 43.
+        connect(rollbalken_[i], &QScrollBar::valueChanged, this, [this, i](int wert) {
+            if (!darstellend_)
+                ereignis_([&] { t_.rollbalkenbewegt(static_cast<int>(i) + 1, wert); });
+        });
     }
     hide();
 }

@@ -42,6 +42,15 @@ void vkeerlaeuterung(Tablett& t);
 void kostenstellenliste(Tablett& t);
 void gesamtauswertung(Tablett& t);
 
+// Page 43 "Netto": the gross amount set by three scroll bars in gross mode. `seiteleeren`
+// clears the controls when the page is built anew in that mode; `bruttoregler` builds it and
+// puts the bars to the gross amount; `bruttoaendern` is the update after a move of a bar;
+// `bruttobetraege` shows the results on the page.
+void seiteleeren(Tablett& t);
+void bruttoregler(Tablett& t);
+void bruttoaendern(Tablett& t);
+void bruttobetraege(Tablett& t);
+
 namespace seitenlage {
 constexpr int anfang = 150;  // top of the first row
 constexpr int abstand = 240; // pitch of the rows of the explaining pages

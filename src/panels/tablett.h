@@ -6,6 +6,7 @@
 #include "core/feld.h"
 #include "core/hilfe.h"
 #include "core/seitenoeffner.h"
+#include "engine/dienstalter.h"
 #include "start/sitzung.h"
 
 #include <functional>
@@ -188,6 +189,16 @@ public:
     // The range of records page 61 marked last, first and last number.
     std::optional<std::pair<int, int>> markierbereich;
     bool passwortverlangt = false;
+    // Page 42: the working values of the service-age worksheet, kept while the page lives.
+    Dienstalterwerte dienstalter;
+    // A report the page asks the face to print, e.g. "bda" from "Drucken" on page 42.
+    std::optional<std::string> druckwunsch;
+    // A pick in the list of row `zeile` of the main screen, as a click there makes it (the
+    // month of row 20 loads that month; other rows recalculate). Page 42's "Übertrag" uses
+    // it; without a window the pick is made on the session.
+    std::function<void(int zeile, int position)> auswahlsetzen;
+    // The start of the service age "MM.19JJ" typed into the box "BDA" and confirmed.
+    std::function<void(const std::string& text)> bdauebernehmen;
     // Called by a page that works long (the year change) between two steps: the window
     // shows the labels as they stand and serves its events.
     std::function<void()> zwischendurch;
@@ -222,6 +233,15 @@ public:
     void zeile_Click(int index);
     void kasten_Click(int index);
     void Form_Click();
+    // The three bars of page 43 (`nummer` 1 to 3): Change and Scroll run the same update,
+    // except while the page is being built. `wert` is the bar's new position.
+    void hscroll1_change(int wert) { rollbalkenbewegt(1, wert); }
+    void hscroll1_scroll(int wert) { rollbalkenbewegt(1, wert); }
+    void HScroll2_Change(int wert) { rollbalkenbewegt(2, wert); }
+    void HScroll2_Scroll(int wert) { rollbalkenbewegt(2, wert); }
+    void HScroll3_Change(int wert) { rollbalkenbewegt(3, wert); }
+    void HScroll3_Scroll(int wert) { rollbalkenbewegt(3, wert); }
+    void rollbalkenbewegt(int nummer, int wert);
     void Form_Load();
     void Form_Activate();
     void Form_Deactivate();

@@ -1,4 +1,5 @@
 // The events of the panel: the buttons, the clicks that hand back to Form1, the form's own.
+#include "panels/dienstalterseite.h"
 #include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tablett.h"
@@ -61,6 +62,9 @@ void Tablett::schliessen() {
 
 void Tablett::Command1_Click() {
     switch (s.Tablettseite) {
+    case 42:
+        dienstalteruebertrag(*this);
+        break;
     case 23:
         jahreswertespeichern(*this);
         break;
@@ -108,6 +112,8 @@ void Tablett::combo_Click(int index) {
 
 int Tablett::text_KeyPress(int index, int taste) {
     switch (s.Tablettseite) {
+    case 42:
+        return dienstaltertaste(*this, index, taste);
     case 61:
         return markiertaste(*this, index, taste);
     case 64:
@@ -128,6 +134,9 @@ int Tablett::text_KeyPress(int index, int taste) {
 
 void Tablett::command2_Click() {
     switch (s.Tablettseite) {
+    case 42:
+        dienstalterdrucken(*this);
+        break;
     case 22:
     case 44:
     case 61:
@@ -183,6 +192,8 @@ void Tablett::combo_GotFocus(int index) {
 
 void Tablett::text_GotFocus(int index) {
     fokus = {Tablettfokusart::text, index};
+    if (s.Tablettseite == 42)
+        dienstalterfokus(*this, index);
 }
 
 // The main screen's help sets the page number to 0 while the page stays in view: a click on
@@ -227,6 +238,19 @@ void Tablett::Form_Deactivate() {
     s.Neuberechnung = 0;
     s.aktuellezeile = 45;
     s.Tablettseite = 8;
+    // The gross mode stored nothing: the month is loaded again and run as a normal run runs
+    // it, so that the screen and the stored record are those of the typed inputs again.
+    schliessen();
+    if (linkespalteauffrischen)
+        linkespalteauffrischen();
+}
+
+void Tablett::rollbalkenbewegt(int nummer, int wert) {
+    Tablettrollbalken& b = nummer == 1 ? HScroll1 : nummer == 2 ? HScroll2 : HScroll3;
+    b.wert = wert < b.minimum ? b.minimum : wert > b.maximum ? b.maximum : wert;
+    if (s.bruttomodus == 2 || s.Tablettseite != 43)
+        return;
+    bruttoaendern(*this);
 }
 
 void Tablett::Form_Unload() {

@@ -1,5 +1,8 @@
 // Opening a page: clear, width, placement beside or over the left column, dispatch, show.
+#include "engine/berechnen.h"
 #include "engine/monatladen.h"
+#include "engine/schritte.h"
+#include "panels/dienstalterseite.h"
 #include "panels/namen.h"
 #include "panels/seiten.h"
 #include "panels/tablett.h"
@@ -45,6 +48,8 @@ Tablett::Tablett(Sitzung& sitzung, Form1lage& f, Hilfe* h) : s(sitzung), form(f)
         t.textbis = 6000;
         t.formwunsch = "Textedit";
     };
+    bauer_[42] = dienstalterseite;
+    bauer_[43] = bruttoregler;
     bauer_[47] = jahresuebertrag;
     bauer_[67] = versionsseite;
     zeilenname = [this](int z) { return zeilenbezeichnung(s, z); };
@@ -53,6 +58,23 @@ Tablett::Tablett(Sitzung& sitzung, Form1lage& f, Hilfe* h) : s(sitzung), form(f)
         monatladen(s, s.aktuelleperson, monat);
     };
     passwortzeigen = [this] { passwortverlangt = true; };
+    bdauebernehmen = [this](const std::string& text) {
+        s.bdabeginn = text;
+        stufeausbda(s);
+        s.Neuberechnung = -1;
+        s.aenderungscode = 7;
+        nachrechnen(s);
+    };
+    auswahlsetzen = [this](int zeile, int position) {
+        s.merkmal[zeile] = static_cast<std::int16_t>(position);
+        if (zeile == 20) {
+            monatladen(s, s.aktuelleperson, static_cast<std::int16_t>(position));
+            return;
+        }
+        s.Neuberechnung = -1;
+        s.aenderungscode = static_cast<std::int16_t>(zeile);
+        nachrechnen(s);
+    };
 }
 
 void Tablett::seiteanmelden(int seite, Seitenbauer bauer) {
@@ -60,6 +82,9 @@ void Tablett::seiteanmelden(int seite, Seitenbauer bauer) {
 }
 
 void Tablett::seiteoeffnen(int nummer) {
+    // Another page ends the gross mode first, as leaving page 43 does.
+    if (s.bruttomodus == 1 && nummer != 43)
+        Form_Deactivate();
     sanduhr = true;
     s.Tablettseite = static_cast<std::int16_t>(nummer);
     tablettoeffnen();
@@ -68,6 +93,9 @@ void Tablett::seiteoeffnen(int nummer) {
 void Tablett::tablettoeffnen() {
     // 1.
     wirdgeoeffnet = true;
+    // Page 43 is the gross slider: the panel lies over the left column in gross mode.
+    if (s.Tablettseite == 43 && s.bruttomodus == 0)
+        s.bruttomodus = 1;
     tablettleeren();
     // 2.
     breiteregel();
@@ -132,6 +160,9 @@ void Tablett::auffrischen() {
         break;
     case 35:
         teilzeitseite(*this);
+        break;
+    case 43:
+        bruttobetraege(*this);
         break;
     case 7:
         // The social-insurance builders stand here under a number no menu sets: the open

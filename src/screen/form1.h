@@ -144,6 +144,10 @@ public:
     void umbenennen(const std::string& name);
     // A switch of a pay row clicked to `an`.
     void schalterklicken(Schalterart art, int zeile, bool an);
+    // The calculator's "Übertrag": the amount into eingabe and wert of the row as a confirmed
+    // key does it (limits, recalculation, later months); a negative amount is confirmed as
+    // with "-". False, with a message, for a row without an amount box.
+    bool betraguebernehmen(int zeile, std::int32_t pfennig);
 
     // --- Anzeige
     void tablettauffrischen() override {}
@@ -167,6 +171,7 @@ private:
     void positionenuebernehmen();
     void zeilenabhaengig(int zeile);
     void neuberechnen(int zeile);
+    void bestaetigen(int zeile, std::int32_t betrag, bool minus);
     void grenzenpruefen(int zeile);
     void korrigieren(int zeile, std::int32_t wert, const char* text, const char* titel);
     bool jahresgehaltgesperrt();

@@ -151,6 +151,13 @@ void seiteoeffnen(Menueziel& z, int nummer) {
                 "Die Darstellung der Teilzeitbeträge ist nur bei einzelnen Monaten möglich.");
         return;
     }
+    // The gross slider sets the month's gross: not in the year view, which is a sum.
+    if (nummer == 43 && z.s.merkmal[20] == 12) {
+        meldung(z.s, "Keine Änderung möglich",
+                "Während das JAHRESGEHALT eingestellt ist, können keine Änderungen vorgenommen "
+                "werden. Bitte stellen Sie ein Monatsgehalt ein.");
+        return;
+    }
     z.tablett.seiteoeffnen(nummer);
 }
 
@@ -193,6 +200,7 @@ std::vector<Menuepunkt> hauptmenue(const Sitzung& s) {
         seite("MZusatzversicherung", "ZVK", 8),
         eintrag("MLstrTab", "LTab", Menueaktion::form, 0),
         menue("MTabelle", "GTab", tabellenthemen()),
+        seite("MNetto", "Netto", 43),
         menue("MDrucken", "Druck", druckpunkte()),
         eintrag("MJahr", "Jahr", Menueaktion::form, 3),
         seite("MAmt", "Amt", 4),

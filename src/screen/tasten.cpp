@@ -98,10 +98,15 @@ int Form1::t_KeyPress(int zeile, int key) {
     std::int32_t betrag = betragauslesen(text);
     if (key == '-')
         betrag = pf::negiert(betrag);
+    bestaetigen(zeile, betrag, key == '-');
+    return 0;
+}
+
+void Form1::bestaetigen(int zeile, std::int32_t betrag, bool minus) {
     s.eingabe[zeile] = betrag;
     s.wert[zeile] = betrag;
     // "-" on the hours and days rows and on row 29 clears the row.
-    if (key == '-' && (zeile <= 3 || zeile == 29)) {
+    if (minus && (zeile <= 3 || zeile == 29)) {
         s.eingabe[zeile] = 0;
         s.wert[zeile] = 0;
     }
@@ -109,7 +114,24 @@ int Form1::t_KeyPress(int zeile, int key) {
     grenzenpruefen(zeile);
     zeilenabhaengig(zeile);
     neuberechnen(zeile);
-    return 0;
+}
+
+bool Form1::betraguebernehmen(int zeile, std::int32_t betrag) {
+    const bool mitfeld = zeile >= 0 && zeile <= 45 &&
+                         bild.zeilen[static_cast<std::size_t>(zeile)].hatWertfeld &&
+                         !bild.zeilen[static_cast<std::size_t>(zeile)].gesperrt;
+    if (!mitfeld) {
+        if (s.dialoge)
+            s.dialoge->zeigen({"Rechner",
+                               "In Zeile " + std::to_string(zeile) +
+                                   " kann kein Betrag eingetragen werden. Bitte klicken Sie "
+                                   "zuerst auf den Betrag der Zeile, in die das Ergebnis soll.",
+                               Symbol::ausruf, Knoepfe::ok});
+        return false;
+    }
+    s.aktuellezeile = static_cast<std::int16_t>(zeile);
+    bestaetigen(zeile, betrag, betrag < 0);
+    return true;
 }
 
 void Form1::korrigieren(int zeile, std::int32_t wert, const char* text, const char* titel) {

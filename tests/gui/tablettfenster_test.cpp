@@ -154,7 +154,7 @@ TEST(TablettFenster, MenueleisteInIhrerReihenfolge) {
     for (QAction* a : w.f->menuBar()->actions())
         texte << a->text();
     EXPECT_EQ(texte, (QStringList{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz", "ZVK", "LTab",
-                                  "GTab", "Druck", "Jahr", "Amt", "VKE", "Info", "?"}));
+                                  "GTab", "Netto", "Druck", "Jahr", "Amt", "VKE", "Info", "?"}));
     QAction* m1997 = w.f->menuBar()->findChild<QAction*>(QStringLiteral("M1997"));
     ASSERT_NE(m1997, nullptr);
     EXPECT_TRUE(m1997->isChecked());

@@ -33,9 +33,9 @@ struct Menueumgebung {
 TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     test::Umgebung u;
     const std::vector<Menuepunkt> leiste = hauptmenue(u.s);
-    EXPECT_EQ(texte(leiste),
-              (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz", "ZVK", "LTab",
-                                        "GTab", "Druck", "Jahr", "Amt", "VKE", "Info", "?"}));
+    EXPECT_EQ(texte(leiste), (std::vector<std::string>{"Wie", "97", "98", "Txt", "Tz", "LSt", "Soz",
+                                                       "ZVK", "LTab", "GTab", "Netto", "Druck",
+                                                       "Jahr", "Amt", "VKE", "Info", "?"}));
     EXPECT_EQ(texte(leiste[0].punkte),
               (std::vector<std::string>{"Passwort ...", "Farbe ...", "Voreinstellungen ...",
                                         "Sozialversicherungsdaten ...", "KV_Beitragssätze ...",
@@ -65,18 +65,22 @@ TEST(Hauptmenue, LeisteInDerReihenfolgeMitIhrenBeschriftungen) {
     EXPECT_EQ(gtab.punkte[4].zahl, 70011);
     EXPECT_EQ(gtab.punkte[10].text, "Angestellte Ost B/L ab  1/97");
     EXPECT_EQ(gtab.punkte[15].zahl, 70259);
-    EXPECT_EQ(leiste[10].name, "MDrucken");
-    EXPECT_EQ(leiste[12].name, "MAmt");
-    EXPECT_EQ(leiste[12].zahl, 4);
-    const Menuepunkt& info = leiste[14];
+    // "Netto" (page 43) stands between "GTab" and "Druck".
+    EXPECT_EQ(leiste[10].name, "MNetto");
+    EXPECT_EQ(leiste[10].text, "Netto");
+    EXPECT_EQ(leiste[10].zahl, 43);
+    EXPECT_EQ(leiste[11].name, "MDrucken");
+    EXPECT_EQ(leiste[13].name, "MAmt");
+    EXPECT_EQ(leiste[13].zahl, 4);
+    const Menuepunkt& info = leiste[15];
     EXPECT_EQ(texte(info.punkte),
               (std::vector<std::string>{"Überreicht durch", "Über LONVIR97",
                                         "In diesem Update ist neu:", "Update", "Beihilfe",
                                         "Vorschläge", "Dankeschön", "Geschenke"}));
-    EXPECT_EQ(leiste[15].name, "MHilfe");
-    EXPECT_EQ(leiste[15].aktion, Menueaktion::zeilenhilfe);
-    EXPECT_EQ(leiste[15].punkte[0].zahl, 20000);
-    EXPECT_EQ(leiste[15].punkte[1].zahl, 1000);
+    EXPECT_EQ(leiste[16].name, "MHilfe");
+    EXPECT_EQ(leiste[16].aktion, Menueaktion::zeilenhilfe);
+    EXPECT_EQ(leiste[16].punkte[0].zahl, 20000);
+    EXPECT_EQ(leiste[16].punkte[1].zahl, 1000);
 }
 
 TEST(Hauptmenue, JahrZeigtDieJahresuebersichtUndVkeOeffnetSeite66) {
