@@ -2,6 +2,8 @@
 // foot of Form1 carrying a result into a row, page 42 typed key by key, page 43 moved by its
 // scroll bars and left by a click beside it. With LONVIR_FOTOS=DIR each test also leaves its
 // picture there (rechner.png, tablett-42.png, tablett-43.png; scripts/rechnerfotos.sh).
+#include "core/textdrucker.h"
+#include "druck/druckfenster.h"
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
 #include "gui/rechneransicht.h"
@@ -18,6 +20,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -125,6 +128,29 @@ TEST(RechnerFenster, Seite42GetipptUndGedrucktWirdNurFuerBeamte) {
     EXPECT_EQ(t->kasten(10)->text().trimmed(), QStringLiteral("01.03.1997"));
     w.foto("tablett-42.png");
     EXPECT_TRUE(w.dialoge.gezeigt().empty());
+    // "Drucken": the sheet in the preview, once the click is over.
+    bool gesehen = false;
+    std::vector<Druckdokument> dokumente;
+    QTimer wache;
+    wache.setInterval(10);
+    QObject::connect(&wache, &QTimer::timeout, [&] {
+        auto* v = qobject_cast<druck::Druckvorschau*>(QApplication::activeModalWidget());
+        if (v == nullptr)
+            return;
+        wache.stop();
+        gesehen = true;
+        dokumente = v->dokumente();
+        v->reject();
+    });
+    wache.start();
+    QTest::mouseClick(t->knopf(2), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(gesehen, 3000);
+    ASSERT_EQ(dokumente.size(), 1u);
+    bool beginn = false;
+    for (const Druckzeile& z : dokumente[0].zeilen)
+        beginn = beginn || textzeile(z).find("Das Besoldungsdienstalter beginnt also am") !=
+                               std::string::npos;
+    EXPECT_TRUE(beginn);
 }
 
 TEST(RechnerFenster, Seite43FolgtDenBalkenUndSpeichertNichts) {
