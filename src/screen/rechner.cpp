@@ -138,6 +138,8 @@ void Rechner::cancelentry_Click() {
 }
 
 void Rechner::number_Click(int index) {
+    if (index < 0 || index > 19)
+        return; // the array has no such button
     const char ziffer = static_cast<char>('0' + (index < 10 ? index : 19 - index));
     // 1.
     if (letzteeingabe != "NUMS") {

@@ -1,7 +1,9 @@
 // The clerk's tools in the window, under the offscreen platform: the calculator strip at the
 // foot of Form1 carrying a result into a row, page 42 typed key by key, page 43 moved by its
 // scroll bars and left by a click beside it. With LONVIR_FOTOS=DIR each test also leaves its
-// picture there (rechner.png, seite42.png, seite43.png).
+// picture there (rechner.png, tablett-42.png, tablett-43.png; scripts/rechnerfotos.sh).
+#include "core/textdrucker.h"
+#include "druck/druckfenster.h"
 #include "gui/form1fenster.h"
 #include "gui/hilfefenster.h"
 #include "gui/rechneransicht.h"
@@ -18,6 +20,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -123,8 +126,31 @@ TEST(RechnerFenster, Seite42GetipptUndGedrucktWirdNurFuerBeamte) {
     EXPECT_EQ(t->kasten(8)->text().trimmed(), QStringLiteral("01.03.1985"));
     EXPECT_EQ(t->kasten(9)->text().trimmed(), QStringLiteral("6"));
     EXPECT_EQ(t->kasten(10)->text().trimmed(), QStringLiteral("01.03.1997"));
-    w.foto("seite42.png");
+    w.foto("tablett-42.png");
     EXPECT_TRUE(w.dialoge.gezeigt().empty());
+    // "Drucken": the sheet in the preview, once the click is over.
+    bool gesehen = false;
+    std::vector<Druckdokument> dokumente;
+    QTimer wache;
+    wache.setInterval(10);
+    QObject::connect(&wache, &QTimer::timeout, [&] {
+        auto* v = qobject_cast<druck::Druckvorschau*>(QApplication::activeModalWidget());
+        if (v == nullptr)
+            return;
+        wache.stop();
+        gesehen = true;
+        dokumente = v->dokumente();
+        v->reject();
+    });
+    wache.start();
+    QTest::mouseClick(t->knopf(2), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(gesehen, 3000);
+    ASSERT_EQ(dokumente.size(), 1u);
+    bool beginn = false;
+    for (const Druckzeile& z : dokumente[0].zeilen)
+        beginn = beginn || textzeile(z).find("Das Besoldungsdienstalter beginnt also am") !=
+                               std::string::npos;
+    EXPECT_TRUE(beginn);
 }
 
 TEST(RechnerFenster, Seite43FolgtDenBalkenUndSpeichertNichts) {
@@ -145,7 +171,7 @@ TEST(RechnerFenster, Seite43FolgtDenBalkenUndSpeichertNichts) {
     EXPECT_EQ(w.f->t(22)->text().trimmed().left(8), QStringLiteral("4.588,56"));
     pfg->setValue(57);
     EXPECT_EQ(w.s.wert[22], 458857);
-    w.foto("seite43.png");
+    w.foto("tablett-43.png");
     EXPECT_EQ(test::ordnerinhalt(w.ordner.pfad()), normal);
     // A click beside the panel leaves the page: the month as it was stored.
     QTest::mouseClick(w.f->hinweis(), Qt::LeftButton);

@@ -83,8 +83,11 @@ TEST(Bruttoregler, EinSchrittDesDrittenBalkensIstEinPfennig) {
 
 TEST(Bruttoregler, ZwanzigtausendMarkOeffnenMitDemGrobenBalkenBei150) {
     Schieber b;
-    // A gross of 20,000 DM: the bars show 15,000 DM and the rest of 0 DM and 0 Pfennig.
-    b.u.s.wert[20] = 2000000;
+    // 16,111 DM in row 12 and 0.44 DM in row 13 make a gross of 20,000 DM (typed apart: a box
+    // of eight characters is reset): the bars show 15,000 DM and the rest of 0 DM, 0 Pfennig.
+    b.f.betragtippen(12, 1611100);
+    b.f.betragtippen(13, 44);
+    ASSERT_EQ(b.u.s.wert[20], 2000000);
     menueklick(b.ziel, "MNetto");
     EXPECT_EQ(b.t.HScroll1.wert, 150);
     EXPECT_EQ(b.t.HScroll2.wert, 0);
