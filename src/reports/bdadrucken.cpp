@@ -16,9 +16,9 @@ namespace {
 constexpr int text = 10;
 constexpr int rechts = 65;
 constexpr int datumsspalte = 52;
-// The body runs to column 77: at 12 points the right-hand column would run off the office's
-// letter paper (15 and 10 mm margins), at 11 points it fits with the same columns.
-constexpr float grundschrift = 11.0F;
+// The body runs to column 77, at 12 points a little wider than the paper between its margins:
+// the printer draws such a page smaller as a whole, so the right-hand column stays on it.
+constexpr float grundschrift = 12.0F;
 
 std::string monate(int n) {
     return std::to_string(n) + "  Monate";
