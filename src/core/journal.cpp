@@ -286,7 +286,12 @@ std::optional<std::vector<std::uint8_t>> dateilesen(const fs::path& pfad) {
 } // namespace
 
 std::vector<std::uint8_t> kodieren(const std::vector<Schreibvorgang::Schritt>& schritte) {
-    std::vector<std::uint8_t> b(std::begin(kopf), std::end(kopf));
+    std::size_t groesse = sizeof kopf + 4 + 8 + sizeof schluss;
+    for (const auto& s : schritte)
+        groesse += 1 + 2 + s.pfad.filename().native().size() + 8 + 4 + s.bytes.size();
+    std::vector<std::uint8_t> b;
+    b.reserve(groesse);
+    b.insert(b.end(), std::begin(kopf), std::end(kopf));
     anhaengen(b, static_cast<std::uint32_t>(schritte.size()));
     for (const auto& s : schritte) {
         const std::string name = s.pfad.filename().string();
