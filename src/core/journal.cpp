@@ -39,8 +39,10 @@ std::uint64_t pruefsumme(std::span<const std::uint8_t> b) {
 }
 
 template <typename T> void anhaengen(std::vector<std::uint8_t>& aus, T wert) {
+    std::uint8_t b[sizeof(T)];
     for (std::size_t i = 0; i < sizeof(T); ++i)
-        aus.push_back(static_cast<std::uint8_t>(static_cast<std::uint64_t>(wert) >> (8 * i)));
+        b[i] = static_cast<std::uint8_t>(static_cast<std::uint64_t>(wert) >> (8 * i));
+    aus.insert(aus.end(), b, b + sizeof(T));
 }
 
 class Leser {
@@ -349,9 +351,12 @@ void festschreiben(const fs::path& ordner, const Schreibvorgang& v,
     if (v.leer())
         return;
     std::vector<Schreibvorgang::Schritt> schritte = v.schritte();
-    for (const auto& s : schritte)
-        if (s.pfad.parent_path().lexically_normal() != ordner.lexically_normal())
+    const fs::path normal = ordner.lexically_normal();
+    for (const auto& s : schritte) {
+        const fs::path liegt = s.pfad.parent_path();
+        if (liegt != ordner && liegt.lexically_normal() != normal)
             throw Dateifehler(s.pfad.string(), "liegt nicht im Arbeitsordner");
+    }
     Deskriptoren d(ordner, offen);
     schritte = aenderungen(d, std::move(schritte));
     // Nothing changes: no journal, no flush.

@@ -18,7 +18,12 @@ template <typename Datei> std::vector<std::size_t> reihenfolge(const Datei& d) {
 } // namespace
 
 std::string Schreibvorgang::schluessel(const std::filesystem::path& pfad) {
-    return pfad.lexically_normal().string();
+    // The session's paths are a folder and a name: normal as they stand.
+    const std::string& roh = pfad.native();
+    const bool normal = roh.find("/.") == std::string::npos &&
+                        roh.find("//") == std::string::npos && !roh.ends_with('/') &&
+                        !roh.starts_with('.');
+    return normal ? roh : pfad.lexically_normal().string();
 }
 
 void Schreibvorgang::beginnen() {
@@ -62,9 +67,22 @@ void Schreibvorgang::ueberlagern(const std::filesystem::path& pfad, std::int64_t
     const Datei& d = it->second;
     if (d.geloescht)
         std::fill(satz.begin(), satz.end(), std::uint8_t{0});
-    // Writes in the order they were made, so that a later one wins where two overlap.
-    const std::vector<std::size_t> reihe = reihenfolge(d);
     const std::int64_t ende = versatz + static_cast<std::int64_t>(satz.size());
+    // Mostly one write lies over the record: it alone is laid over it.
+    std::size_t treffer = 0;
+    std::size_t einziger = 0;
+    for (std::size_t i = 0; i < d.saetze.size() && treffer < 2; ++i) {
+        const Schritt& s = d.saetze[i];
+        if (s.versatz < ende && versatz < s.versatz + static_cast<std::int64_t>(s.bytes.size())) {
+            ++treffer;
+            einziger = i;
+        }
+    }
+    if (treffer == 0)
+        return;
+    // Writes in the order they were made, so that a later one wins where two overlap.
+    const std::vector<std::size_t> reihe =
+        treffer == 1 ? std::vector<std::size_t>{einziger} : reihenfolge(d);
     for (std::size_t i : reihe) {
         const Schritt& s = d.saetze[i];
         const std::int64_t von = std::max(versatz, s.versatz);
