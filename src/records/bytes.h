@@ -13,12 +13,44 @@
 
 namespace lonvir::bytes {
 
-[[nodiscard]] std::int16_t i16(std::span<const std::uint8_t> b, std::size_t ab);
-[[nodiscard]] std::int32_t i32(std::span<const std::uint8_t> b, std::size_t ab);
-[[nodiscard]] std::int64_t i64(std::span<const std::uint8_t> b, std::size_t ab);
-void setzeI16(std::span<std::uint8_t> b, std::size_t ab, std::int16_t v);
-void setzeI32(std::span<std::uint8_t> b, std::size_t ab, std::int32_t v);
-void setzeI64(std::span<std::uint8_t> b, std::size_t ab, std::int64_t v);
+// A field that does not fit into the record raises the index error.
+[[noreturn]] void ausserhalb();
+
+// The integer of `n` bytes at `ab`, little-endian; inline, since every record field passes here.
+inline std::uint64_t lesenLE(std::span<const std::uint8_t> b, std::size_t ab, std::size_t n) {
+    if (ab + n > b.size())
+        ausserhalb();
+    std::uint64_t v = 0;
+    for (std::size_t i = 0; i < n; ++i)
+        v |= std::uint64_t{b[ab + i]} << (8 * i);
+    return v;
+}
+
+inline void schreibenLE(std::span<std::uint8_t> b, std::size_t ab, std::size_t n, std::uint64_t v) {
+    if (ab + n > b.size())
+        ausserhalb();
+    for (std::size_t i = 0; i < n; ++i)
+        b[ab + i] = static_cast<std::uint8_t>(v >> (8 * i));
+}
+
+[[nodiscard]] inline std::int16_t i16(std::span<const std::uint8_t> b, std::size_t ab) {
+    return static_cast<std::int16_t>(lesenLE(b, ab, 2));
+}
+[[nodiscard]] inline std::int32_t i32(std::span<const std::uint8_t> b, std::size_t ab) {
+    return static_cast<std::int32_t>(lesenLE(b, ab, 4));
+}
+[[nodiscard]] inline std::int64_t i64(std::span<const std::uint8_t> b, std::size_t ab) {
+    return static_cast<std::int64_t>(lesenLE(b, ab, 8));
+}
+inline void setzeI16(std::span<std::uint8_t> b, std::size_t ab, std::int16_t v) {
+    schreibenLE(b, ab, 2, static_cast<std::uint16_t>(v));
+}
+inline void setzeI32(std::span<std::uint8_t> b, std::size_t ab, std::int32_t v) {
+    schreibenLE(b, ab, 4, static_cast<std::uint32_t>(v));
+}
+inline void setzeI64(std::span<std::uint8_t> b, std::size_t ab, std::int64_t v) {
+    schreibenLE(b, ab, 8, static_cast<std::uint64_t>(v));
+}
 
 // The raw bytes of a fixed string; zero bytes (a read past the end) count as blanks.
 [[nodiscard]] std::string text(std::span<const std::uint8_t> b, std::size_t ab, std::size_t laenge);
