@@ -137,8 +137,13 @@ private:
     std::set<std::string> ersetzt_;
 };
 
-// Whether the file holds exactly `bytes` at `versatz` (all of them within its length).
-bool haeltSchon(int fd, std::int64_t versatz, const std::vector<std::uint8_t>& bytes) {
+// What the store has learnt of a file's length: at least so many bytes.
+using Mindestlaengen = std::map<std::string, std::int64_t>;
+
+// Whether the file holds exactly `bytes` at `versatz` (all of them within its length). A read
+// of every byte tells that the file reaches that far.
+bool haeltSchon(int fd, std::int64_t versatz, const std::vector<std::uint8_t>& bytes,
+                std::int64_t& mindestlaenge) {
     if (fd < 0)
         return false;
     std::vector<std::uint8_t> alt(bytes.size());
@@ -152,6 +157,7 @@ bool haeltSchon(int fd, std::int64_t versatz, const std::vector<std::uint8_t>& b
             return false;
         gelesen += static_cast<std::size_t>(n);
     }
+    mindestlaenge = std::max(mindestlaenge, versatz + static_cast<std::int64_t>(alt.size()));
     return alt == bytes;
 }
 
@@ -171,7 +177,8 @@ bool ueberlappend(std::vector<std::pair<std::int64_t, std::int64_t>> bereiche) {
 // holds changes nothing, unless the file is deleted in the same store or two of its writes
 // overlap.
 std::vector<Schreibvorgang::Schritt> aenderungen(Deskriptoren& d,
-                                                 std::vector<Schreibvorgang::Schritt> schritte) {
+                                                 std::vector<Schreibvorgang::Schritt> schritte,
+                                                 Mindestlaengen& laengen) {
     using Art = Schreibvorgang::Schritt::Art;
     std::map<std::string, std::vector<std::pair<std::int64_t, std::int64_t>>> bereiche;
     std::set<std::string> festeFolge;
@@ -190,8 +197,9 @@ std::vector<Schreibvorgang::Schritt> aenderungen(Deskriptoren& d,
     noetig.reserve(schritte.size());
     for (auto& s : schritte) {
         const std::string name = s.pfad.filename().string();
-        const bool unveraendert = s.art == Art::schreiben && !festeFolge.contains(name) &&
-                                  haeltSchon(d.holen(name, false), s.versatz, s.bytes);
+        const bool unveraendert =
+            s.art == Art::schreiben && !festeFolge.contains(name) &&
+            haeltSchon(d.holen(name, false), s.versatz, s.bytes, laengen[name]);
         if (!unveraendert)
             noetig.push_back(std::move(s));
     }
@@ -201,7 +209,8 @@ std::vector<Schreibvorgang::Schritt> aenderungen(Deskriptoren& d,
 // The blocks a file grows by, taken before the journal is written, so that a full disk stops
 // the store before anything has changed and not in the middle of applying it.
 void platzreservieren(Deskriptoren& d, const fs::path& ordner,
-                      const std::vector<Schreibvorgang::Schritt>& schritte) {
+                      const std::vector<Schreibvorgang::Schritt>& schritte,
+                      const Mindestlaengen& laengen) {
     std::map<std::string, std::int64_t> ende;
     for (const auto& s : schritte)
         if (s.art == Schreibvorgang::Schritt::Art::schreiben) {
@@ -209,6 +218,9 @@ void platzreservieren(Deskriptoren& d, const fs::path& ordner,
             e = std::max(e, s.versatz + static_cast<std::int64_t>(s.bytes.size()));
         }
     for (const auto& [name, e] : ende) {
+        // A file known to reach that far does not grow.
+        if (const auto it = laengen.find(name); it != laengen.end() && it->second >= e)
+            continue;
         const fs::path pfad = ordner / name;
         const int fd = d.holen(name, true);
         if (fd < 0)
@@ -358,11 +370,12 @@ void festschreiben(const fs::path& ordner, const Schreibvorgang& v,
             throw Dateifehler(s.pfad.string(), "liegt nicht im Arbeitsordner");
     }
     Deskriptoren d(ordner, offen);
-    schritte = aenderungen(d, std::move(schritte));
+    Mindestlaengen laengen;
+    schritte = aenderungen(d, std::move(schritte), laengen);
     // Nothing changes: no journal, no flush.
     if (schritte.empty())
         return;
-    platzreservieren(d, ordner, schritte);
+    platzreservieren(d, ordner, schritte, laengen);
     const fs::path pfad = ordner / dateiname;
     journalschreiben(pfad, kodieren(schritte));
     anwenden(d, ordner, schritte);
