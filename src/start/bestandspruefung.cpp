@@ -38,8 +38,8 @@ public:
             return;
         struct stat st {};
         if (::fstat(fd, &st) == 0 && st.st_size > 0) {
-            void* p = ::mmap(nullptr, static_cast<std::size_t>(st.st_size), PROT_READ,
-                             MAP_PRIVATE | MAP_POPULATE, fd, 0);
+            void* p = ::mmap(nullptr, static_cast<std::size_t>(st.st_size), PROT_READ, MAP_PRIVATE,
+                             fd, 0);
             if (p != MAP_FAILED) {
                 daten_ = static_cast<const std::uint8_t*>(p);
                 laenge_ = static_cast<std::size_t>(st.st_size);
