@@ -5,6 +5,7 @@
 #include "core/pfennig.h"
 #include "engine/berechnen.h"
 #include "panels/seiten.h"
+#include "panels/seitenteile.h"
 #include "start/texte.h"
 
 #include <algorithm>
@@ -53,22 +54,6 @@ std::int32_t ergebnis(const Sitzung& s, int i) {
     }
 }
 
-void zeilesetzen(Tablett& t, int i, const std::string& text, Lage lage, bool fett = false) {
-    Tablettzeile& z = t.zeile[i];
-    z.text = text;
-    z.lage = lage;
-    z.fett = fett;
-    z.sichtbar = true;
-}
-
-void kastensetzen(Tablett& t, int i, Lage lage) {
-    Tablettkasten& k = t.kasten[i];
-    k.lage = lage;
-    k.autogroesse = false;
-    k.fase = 1;
-    k.sichtbar = true;
-}
-
 Tablettrollbalken& balken(Tablett& t, int nummer) {
     return nummer == 1 ? t.HScroll1 : nummer == 2 ? t.HScroll2 : t.HScroll3;
 }
@@ -109,31 +94,31 @@ void bruttoregler(Tablett& t) {
     const int rechts = std::max(t.lage.breite / 2, 3900);
     // Left half: three heading rows, the results with their amounts, the way out.
     for (int i = 0; i <= 2; ++i)
-        zeilesetzen(t, i, textgetrimmt(s, ersterText + 1 + i),
+        zeilezeigen(t, i, textgetrimmt(s, ersterText + 1 + i),
                     {100, 100 + i * abstand, 3600, abstand}, i == 0);
     for (int i = 0; i <= 10; ++i) {
-        zeilesetzen(t, 3 + i, textgetrimmt(s, ergebnistexte + i),
+        zeilezeigen(t, 3 + i, textgetrimmt(s, ergebnistexte + i),
                     {100, 800 + i * abstand, 2400, abstand}, i == 8);
-        kastensetzen(t, 3 + i, {2500, 800 + i * abstand, 1200, abstand});
+        kastenzeigen(t, 3 + i, {2500, 800 + i * abstand, 1200, abstand});
     }
-    zeilesetzen(t, 14, textgetrimmt(s, schliessentext),
+    zeilezeigen(t, 14, textgetrimmt(s, schliessentext),
                 {100, 800 + 11 * abstand + 150, 3600, abstand});
     // Right half: the setting of the gross amount; the three bars in place of row labels,
     // as wide as the half leaves beside their label and their cell.
     const int balkenbreite = std::max(2000, t.lage.breite - rechts - 550 - 1300 - 100);
-    zeilesetzen(t, 21, textgetrimmt(s, ersterText), {rechts, 100, 2600, abstand}, true);
-    kastensetzen(t, 21, {rechts + 600 + balkenbreite, 100, 1200, abstand});
+    zeilezeigen(t, 21, textgetrimmt(s, ersterText), {rechts, 100, 2600, abstand}, true);
+    kastenzeigen(t, 21, {rechts + 600 + balkenbreite, 100, 1200, abstand});
     const char* namen[] = {"grob", "fein", "Pfg"};
     for (int i = 1; i <= 3; ++i) {
         const int oben = 200 + i * 2 * abstand;
-        zeilesetzen(t, 21 + i, namen[i - 1], {rechts, oben, 500, abstand});
+        zeilezeigen(t, 21 + i, namen[i - 1], {rechts, oben, 500, abstand});
         Tablettrollbalken& b = balken(t, i);
         b.lage = {rechts + 550, oben, balkenbreite, abstand + 40};
         b.minimum = 0;
         b.maximum = i == 1 ? 150 : 99;
         b.sichtbar = true;
-        kastensetzen(t, 21 + i, {rechts + 600 + balkenbreite, oben, 1200, abstand});
-        zeilesetzen(t, 24 + i, textgetrimmt(s, ersterText + 3 + i),
+        kastenzeigen(t, 21 + i, {rechts + 600 + balkenbreite, oben, 1200, abstand});
+        zeilezeigen(t, 24 + i, textgetrimmt(s, ersterText + 3 + i),
                     {rechts, 200 + 7 * abstand + i * abstand, 3600, abstand});
     }
     // The bars from the full-time gross, scroll events silent meanwhile: the coarse bar holds

@@ -7,6 +7,7 @@
 #include "core/zeichen.h"
 #include "engine/schritte.h"
 #include "panels/seiten.h"
+#include "panels/seitenteile.h"
 #include "start/texte.h"
 
 namespace lonvir {
@@ -30,22 +31,6 @@ void meldung(Tablett& t, const std::string& titel, const std::string& text,
              Symbol symbol = Symbol::ausruf) {
     if (t.s.dialoge)
         t.s.dialoge->zeigen({titel, text, symbol, Knoepfe::ok});
-}
-
-void zeile(Tablett& t, int i, const std::string& text, Lage lage, bool fett = false) {
-    Tablettzeile& z = t.zeile[i];
-    z.text = text;
-    z.lage = lage;
-    z.fett = fett;
-    z.sichtbar = true;
-}
-
-void kasten(Tablett& t, int i, Lage lage) {
-    Tablettkasten& k = t.kasten[i];
-    k.lage = lage;
-    k.autogroesse = false;
-    k.fase = 1;
-    k.sichtbar = true;
 }
 
 void feld(Tablett& t, int i, Lage lage, int hintergrund) {
@@ -72,7 +57,7 @@ void knoepfe(Tablett& t, int oben, bool rechnend) {
 void kopf(Tablett& t, std::initializer_list<std::string> zeilen) {
     int i = 0;
     for (const std::string& text : zeilen) {
-        zeile(t, i, text, {100, 100 + i * 300, t.Tablettbreite - 200, 300}, true);
+        zeilezeigen(t, i, text, {100, 100 + i * 300, t.Tablettbreite - 200, 300}, true);
         ++i;
     }
 }
@@ -85,13 +70,13 @@ void hinweisseite(Tablett& t, std::initializer_list<std::string> zeilen) {
 
 void monatszaehler(Tablett& t, int oben) {
     const int b = t.Tablettbreite;
-    zeile(t, 21, "Zwischen", {100, oben, 700, abstand});
+    zeilezeigen(t, 21, "Zwischen", {100, oben, 700, abstand});
     feld(t, 3, {800, oben, 1000, abstand}, weiss);
-    zeile(t, 22, "und", {1850, oben, 300, abstand});
+    zeilezeigen(t, 22, "und", {1850, oben, 300, abstand});
     feld(t, 4, {2150, oben, 1000, abstand}, weiss);
-    zeile(t, 23, "liegen", {100, oben + abstand + 50, 700, abstand});
-    kasten(t, 11, {800, oben + abstand + 50, 600, abstand});
-    zeile(t, 24, "ganze Monate.", {1450, oben + abstand + 50, b - 1550, abstand});
+    zeilezeigen(t, 23, "liegen", {100, oben + abstand + 50, 700, abstand});
+    kastenzeigen(t, 11, {800, oben + abstand + 50, 600, abstand});
+    zeilezeigen(t, 24, "ganze Monate.", {1450, oben + abstand + 50, b - 1550, abstand});
 }
 
 void beamtenseite(Tablett& t, int g) {
@@ -104,47 +89,47 @@ void beamtenseite(Tablett& t, int g) {
         kopf(t, {"Berechnung der Dienstaltersstufe",
                  "nach § 28 BBesG für " + getrimmt(t.zeilenname(5))});
     int y = 1050;
-    zeile(t, 3, "Geburtstag", {100, y, rechts - 150, abstand});
+    zeilezeigen(t, 3, "Geburtstag", {100, y, rechts - 150, abstand});
     feld(t, 0, {rechts, y, 1100, abstand}, weiss);
     t.Text[0].text = "TT.MM.JJJJ";
     y += abstand + 50;
-    zeile(t, 4, "Frühester Beginn des BDA", {100, y, rechts - 150, abstand});
-    kasten(t, 1, {rechts, y, 1100, abstand});
+    zeilezeigen(t, 4, "Frühester Beginn des BDA", {100, y, rechts - 150, abstand});
+    kastenzeigen(t, 1, {rechts, y, 1100, abstand});
     y += abstand + 100;
-    zeile(t, 5, "Er wird hinausgeschoben um:", {100, y, b - 200, abstand}, true);
+    zeilezeigen(t, 5, "Er wird hinausgeschoben um:", {100, y, b - 200, abstand}, true);
     // The two periods: months typed, a quarter and a half of them counted.
     const auto zeitraum = [&](int z, int von, int bis, int eingabe) {
         y += abstand;
-        zeile(t, z, "Monate ohne anrechenbare", {100, y, b - 200, abstand - 50});
+        zeilezeigen(t, z, "Monate ohne anrechenbare", {100, y, b - 200, abstand - 50});
         y += abstand - 50;
-        zeile(t, z + 1, "Bezüge (aufgerundet) in der Zeit", {100, y, b - 200, abstand - 50});
+        zeilezeigen(t, z + 1, "Bezüge (aufgerundet) in der Zeit", {100, y, b - 200, abstand - 50});
         y += abstand - 50;
-        zeile(t, z + 2, "vom", {100, y, 300, abstand});
-        kasten(t, von, {400, y, 1000, abstand});
-        zeile(t, z + 3, "bis", {1450, y, 250, abstand});
-        kasten(t, bis, {1700, y, 1000, abstand});
+        zeilezeigen(t, z + 2, "vom", {100, y, 300, abstand});
+        kastenzeigen(t, von, {400, y, 1000, abstand});
+        zeilezeigen(t, z + 3, "bis", {1450, y, 250, abstand});
+        kastenzeigen(t, bis, {1700, y, 1000, abstand});
         feld(t, eingabe, {b - 550, y, 450, abstand}, grau);
     };
     zeitraum(6, 2, 3, 1);
     y += abstand + 50;
-    zeile(t, 10, "davon ein Viertel =", {100, y, 1600, abstand});
-    kasten(t, 4, {1700, y, 600, abstand});
-    zeile(t, 11, "Mon.", {2350, y, 500, abstand});
+    zeilezeigen(t, 10, "davon ein Viertel =", {100, y, 1600, abstand});
+    kastenzeigen(t, 4, {1700, y, 600, abstand});
+    zeilezeigen(t, 11, "Mon.", {2350, y, 500, abstand});
     y += 50;
     zeitraum(12, 5, 6, 2);
     y += abstand + 50;
-    zeile(t, 16, "davon die Hälfte =", {100, y, 1600, abstand});
-    kasten(t, 7, {1700, y, 600, abstand});
-    zeile(t, 17, "Mon.", {2350, y, 500, abstand});
+    zeilezeigen(t, 16, "davon die Hälfte =", {100, y, 1600, abstand});
+    kastenzeigen(t, 7, {1700, y, 600, abstand});
+    zeilezeigen(t, 17, "Mon.", {2350, y, 500, abstand});
     y += abstand + 100;
-    zeile(t, 18, "Beginn des BDA", {100, y, rechts - 150, abstand}, true);
-    kasten(t, 8, {rechts, y, 1100, abstand});
+    zeilezeigen(t, 18, "Beginn des BDA", {100, y, rechts - 150, abstand}, true);
+    kastenzeigen(t, 8, {rechts, y, 1100, abstand});
     y += abstand + 50;
-    zeile(t, 19, "Dienstaltersstufe am 1.1.1996", {100, y, rechts - 150, abstand}, true);
-    kasten(t, 9, {rechts, y, 1100, abstand});
+    zeilezeigen(t, 19, "Dienstaltersstufe am 1.1.1996", {100, y, rechts - 150, abstand}, true);
+    kastenzeigen(t, 9, {rechts, y, 1100, abstand});
     y += abstand + 50;
-    zeile(t, 20, "Nächstes Aufsteigen am", {100, y, rechts - 150, abstand});
-    kasten(t, 10, {rechts, y, 1100, abstand});
+    zeilezeigen(t, 20, "Nächstes Aufsteigen am", {100, y, rechts - 150, abstand});
+    kastenzeigen(t, 10, {rechts, y, 1100, abstand});
     y += abstand + 200;
     monatszaehler(t, y);
     knoepfe(t, y + 2 * abstand + 250, true);
@@ -154,14 +139,14 @@ void batseite(Tablett& t) {
     const int b = t.Tablettbreite;
     const int rechts = b - 1250;
     kopf(t, {"Berechnung der Lebensaltersstufe", "nach § 27 BAT Abschn. A (staatlich)"});
-    zeile(t, 3, "Geburtstag", {100, 1050, rechts - 150, abstand});
+    zeilezeigen(t, 3, "Geburtstag", {100, 1050, rechts - 150, abstand});
     feld(t, 0, {rechts, 1050, 1100, abstand}, weiss);
     t.Text[0].text = "TT.MM.JJJJ";
     const int y = 3800;
-    zeile(t, 12, "Lebensalterstufe am 1.1.96", {100, y, rechts - 150, abstand}, true);
-    kasten(t, 0, {rechts - 300, y, 1400, abstand});
-    zeile(t, 13, "Nächstes Aufrücken am", {100, y + 300, rechts - 150, abstand});
-    kasten(t, 10, {rechts, y + 300, 1100, abstand});
+    zeilezeigen(t, 12, "Lebensalterstufe am 1.1.96", {100, y, rechts - 150, abstand}, true);
+    kastenzeigen(t, 0, {rechts - 300, y, 1400, abstand});
+    zeilezeigen(t, 13, "Nächstes Aufrücken am", {100, y + 300, rechts - 150, abstand});
+    kastenzeigen(t, 10, {rechts, y + 300, 1100, abstand});
     monatszaehler(t, y + 800);
     knoepfe(t, y + 800 + 2 * abstand + 250, true);
 }

@@ -3,15 +3,12 @@
 #include "panels/vorgabeseiten.h"
 
 #include "engine/monatladen.h"
+#include "panels/seitenteile.h"
 
 namespace lonvir {
 
 void vorgabezeile(Tablett& t, int i, const std::string& text, int oben, int breite, bool fett) {
-    Tablettzeile& z = t.zeile[i];
-    z.text = text;
-    z.lage = {vorgabelage::links, oben, breite, vorgabelage::abstand};
-    z.fett = fett;
-    z.sichtbar = true;
+    zeilezeigen(t, i, text, {vorgabelage::links, oben, breite, vorgabelage::abstand}, fett);
 }
 
 void vorgabeknoepfe(Tablett& t, int oben, const std::string& speichern) {
