@@ -62,7 +62,8 @@ public:
         if (::pread((*this)[name], b.data(), b.size(), versatz) < 0)
             std::abort();
     }
-    // The journal written and flushed once, its steps applied, the journal removed.
+    // The journal written and flushed with the folder's entry, its steps applied and flushed,
+    // the journal removed: the flushes of the program's store.
     void festschreiben(const Schritte& schritte) {
         const fs::path jnl = ordner_ / lonvir::journal::dateiname;
         const std::vector<std::uint8_t> bytes = lonvir::journal::kodieren(schritte);
@@ -70,10 +71,16 @@ public:
         if (fd < 0 || ::pwrite(fd, bytes.data(), bytes.size(), 0) < 0 || ::fdatasync(fd) != 0)
             std::abort();
         ::close(fd);
+        const int ordner = ::open(ordner_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (ordner < 0 || ::fsync(ordner) != 0)
+            std::abort();
         for (const auto& s : schritte)
             if (::pwrite((*this)[s.pfad.filename().string()], s.bytes.data(), s.bytes.size(),
                          s.versatz) < 0)
                 std::abort();
+        if (::syncfs(ordner) != 0)
+            std::abort();
+        ::close(ordner);
         ::unlink(jnl.c_str());
     }
 

@@ -73,6 +73,10 @@ int main(int argc, char** argv) {
     if (fd < 0 || ::pwrite(fd, journal.data(), journal.size(), 0) < 0 || ::fdatasync(fd) != 0)
         return 2;
     ::close(fd);
+    // The folder's entry of the journal flushed, as the program's store does.
+    const int ordnerfd = ::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (ordnerfd < 0 || ::fsync(ordnerfd) != 0)
+        return 2;
     // Magic, count, then per step: kind, name length, name, offset, length, bytes.
     const std::uint8_t* p = journal.data() + 4;
     const auto anzahl = zahl<std::uint32_t>(p);
@@ -87,6 +91,10 @@ int main(int argc, char** argv) {
             return 2;
         p += laenge;
     }
+    // The records on the disk before the journal goes.
+    if (::syncfs(ordnerfd) != 0)
+        return 2;
+    ::close(ordnerfd);
     ::unlink(jnl.c_str());
     std::printf("Person %ld gespeichert\n", person);
     return 0;

@@ -241,14 +241,35 @@ void platzreservieren(Deskriptoren& d, const fs::path& ordner,
     }
 }
 
+Flushzahl gezaehlt;
+
+// The folder's own entries flushed: a file created in it is there after a power cut too.
+bool ordnerflushen(const fs::path& ordner) {
+    const int fd = ::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    const bool gut = ::fsync(fd) == 0;
+    ::close(fd);
+    ++gezaehlt.ordner;
+    return gut;
+}
+
 void journalschreiben(const fs::path& pfad, std::span<const std::uint8_t> bytes) {
     const int fd = ::open(pfad.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     bool gut = fd >= 0 && allesschreiben(fd, bytes, 0);
-    const int fehler = errno;
-    if (gut)
+    int fehler = errno;
+    if (gut) {
         gut = ::fdatasync(fd) == 0;
+        ++gezaehlt.journal;
+    }
     if (fd >= 0)
         ::close(fd);
+    // The journal's name must outlast a power cut as well, or an older journal could be
+    // replayed over this input's records.
+    if (gut && !ordnerflushen(pfad.parent_path())) {
+        fehler = errno;
+        gut = false;
+    }
     if (!gut) {
         ::unlink(pfad.c_str());
         throw Dateifehler(pfad.string(), std::string("Journal kann nicht geschrieben werden (") +
@@ -277,6 +298,23 @@ void anwenden(Deskriptoren& d, const fs::path& ordner,
                                   "). Die Eingabe steht vollständig im Journal " + dateiname +
                                   " und wird beim nächsten Start zu Ende gespeichert.");
     }
+}
+
+// Everything applied is on the disk before the journal goes: after a power cut the files hold
+// the input, or the journal still does. One flush of the file system for all files written.
+void gesichert(const fs::path& ordner) {
+    const int fd = ::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const bool gut = fd >= 0 && ::syncfs(fd) == 0;
+    const int fehler = errno;
+    ++gezaehlt.dateisystem;
+    if (fd >= 0)
+        ::close(fd);
+    if (!gut)
+        throw Dateifehler(ordner.string(),
+                          std::string("kann nicht auf die Platte gebracht werden (") +
+                              std::strerror(fehler) + "). Die Eingabe steht vollständig im " +
+                              "Journal " + dateiname +
+                              " und wird beim nächsten Start zu Ende gespeichert.");
 }
 
 std::optional<std::vector<std::uint8_t>> dateilesen(const fs::path& pfad) {
@@ -358,6 +396,10 @@ std::optional<std::vector<Schreibvorgang::Schritt>> dekodieren(std::span<const s
     return schritte;
 }
 
+Flushzahl flushzahl() {
+    return gezaehlt;
+}
+
 void festschreiben(const fs::path& ordner, const Schreibvorgang& v,
                    const std::map<std::string, int>& offen) {
     if (v.leer())
@@ -379,6 +421,7 @@ void festschreiben(const fs::path& ordner, const Schreibvorgang& v,
     const fs::path pfad = ordner / dateiname;
     journalschreiben(pfad, kodieren(schritte));
     anwenden(d, ordner, schritte);
+    gesichert(ordner);
     ::unlink(pfad.c_str());
 }
 
@@ -399,6 +442,7 @@ Nachholen nachholen(const fs::path& ordner) {
         const std::map<std::string, int> keine;
         Deskriptoren d(ordner, keine);
         anwenden(d, ordner, *schritte);
+        gesichert(ordner);
     }
     if (::unlink(pfad.c_str()) != 0)
         throw Dateifehler(pfad.string(), "kann nicht gelöscht werden");

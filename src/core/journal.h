@@ -1,7 +1,9 @@
 // The write-ahead journal of the working folder: a transaction's writes go first into one
-// journal file, which is flushed; then they are applied to the record files and the journal is
-// removed. A complete journal found at the next start is applied again (applying twice gives
-// the same bytes); an incomplete one is discarded, and the files then hold the old state.
+// journal file, which is flushed with the folder's entry of it; then they are applied to the
+// record files, these are flushed, and only then is the journal removed, so a killed process
+// and a power cut alike leave the old state or the whole new one. A complete journal found at the
+// next start is applied again (applying twice gives the same bytes); an incomplete one is
+// discarded, and the files then hold the old state.
 #pragma once
 
 #include "core/schreibvorgang.h"
@@ -17,8 +19,18 @@ namespace lonvir::journal {
 // The journal's name in the working folder.
 inline constexpr const char* dateiname = "Lonvir97.jnl";
 
+// The flushes of this process's stores so far: of the journal, of the folder's entries, and of
+// the file system after applying. A store that changes something does one of each.
+struct Flushzahl {
+    long journal = 0;
+    long ordner = 0;
+    long dateisystem = 0;
+};
+[[nodiscard]] Flushzahl flushzahl();
+
 // Stores every pending change of `v` in the folder `ordner`, all or nothing: reserves the
-// space the files grow by, writes and flushes the journal, applies it, removes it. Every file
+// space the files grow by, writes and flushes the journal and the folder, applies it, flushes
+// the file system of the folder, removes the journal. Every file
 // of the transaction must lie directly in `ordner`.
 // A write that gives a record the bytes it already holds is left out; a transaction that
 // changes nothing writes no journal and flushes nothing. `offen` names files the caller holds

@@ -48,6 +48,30 @@ TEST(Journal, FestschreibenWendetAlleSchritteAnUndEntferntDasJournal) {
     EXPECT_FALSE(fs::exists(t.pfad() / journal::dateiname));
 }
 
+// Safe against a power cut: the journal and the folder's entry of it are flushed before any
+// record is written, and the written records before the journal goes.
+TEST(Journal, EinSpeichernFlushtJournalOrdnerUndDateienBevorDasJournalGeht) {
+    test::Tempordner t;
+    dateischreiben(t.pfad() / "a", "abcdef");
+    dateischreiben(t.pfad() / "c", "weg");
+    const journal::Flushzahl vorher = journal::flushzahl();
+    journal::festschreiben(t.pfad(), zweiDateien(t.pfad()));
+    const journal::Flushzahl nachher = journal::flushzahl();
+    EXPECT_EQ(nachher.journal - vorher.journal, 1);
+    EXPECT_EQ(nachher.ordner - vorher.ordner, 1);
+    EXPECT_EQ(nachher.dateisystem - vorher.dateisystem, 1);
+}
+
+TEST(Journal, DasNachholenFlushtDieDateienBevorDasJournalGeht) {
+    test::Tempordner t;
+    dateischreiben(t.pfad() / "a", "abcdef");
+    const auto b = journal::kodieren(zweiDateien(t.pfad()).schritte());
+    dateischreiben(t.pfad() / journal::dateiname, std::string(b.begin(), b.end()));
+    const long vorher = journal::flushzahl().dateisystem;
+    EXPECT_EQ(journal::nachholen(t.pfad()), journal::Nachholen::angewendet);
+    EXPECT_EQ(journal::flushzahl().dateisystem - vorher, 1);
+}
+
 TEST(Journal, KodierenUndDekodierenGebenDieSchritteZurueck) {
     test::Tempordner t;
     const auto schritte = zweiDateien(t.pfad()).schritte();
@@ -139,8 +163,12 @@ TEST(Journal, EinSpeichernOhneAenderungSchreibtKeinJournal) {
     v.schreiben(t.pfad() / "a", 2, bytes("cd"));
     Stoerungsende ende;
     schreibstoerung::einstellen(1);
+    const journal::Flushzahl vorher = journal::flushzahl();
     EXPECT_NO_THROW(journal::festschreiben(t.pfad(), v));
     EXPECT_EQ(test::dateiinhalt(t.pfad(), "a"), "abcdef");
+    // Nothing changed, nothing flushed.
+    EXPECT_EQ(journal::flushzahl().journal, vorher.journal);
+    EXPECT_EQ(journal::flushzahl().dateisystem, vorher.dateisystem);
 }
 
 // Of the writes only those that change bytes go into the journal; the others are left out.
