@@ -8,9 +8,8 @@ namespace lonvir::cli {
 
 namespace {
 // Options that stand alone; every other option takes a value.
-const std::set<std::string> alleinstehend = {"json",      "ja",     "nein",  "alter64",
-                                             "besonders", "beamte", "alter", "leer",
-                                             "nur-lesen"};
+const std::set<std::string> alleinstehend = {"json",   "ja",    "nein", "alter64",  "besonders",
+                                             "beamte", "alter", "leer", "nur-lesen"};
 // Commands that take a word behind them: drucken BERICHT.
 const std::set<std::string> mitArgument = {"drucken"};
 } // namespace
