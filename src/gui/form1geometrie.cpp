@@ -2,6 +2,7 @@
 // size of the window, the window's place kept in the display settings.
 #include "gui/form1fenster.h"
 #include "gui/rechneransicht.h"
+#include "gui/twips.h"
 
 #include "screen/fensterlage.h"
 #include "start/einstellungen.h"
@@ -38,12 +39,6 @@ constexpr double wertBis = 0.84;
 constexpr double wtpBis = 0.96;
 // And of the right column.
 constexpr double rechteListeBis = 0.60;
-
-double twipsJePixel(const QWidget* w) {
-    const QScreen* bildschirm = w->screen();
-    const double dpi = bildschirm ? bildschirm->logicalDotsPerInchX() : 96.0;
-    return 1440.0 / (dpi > 0 ? dpi : 96.0);
-}
 
 // The largest pixel size up to `groesste` at which `probe` fits `breite`.
 int passend(QFont schrift, const QString& probe, int breite, int groesste) {

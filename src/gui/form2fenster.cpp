@@ -1,6 +1,7 @@
 // The widgets of the totals over the staff and how their events reach Form2.
 #include "gui/form2fenster.h"
 
+#include "gui/twips.h"
 #include "reports/uebersichtcsv.h"
 
 #include <QApplication>
@@ -83,7 +84,7 @@ void Form2Fenster::laden() {
     QApplication::restoreOverrideCursor();
     darstellen();
     // The form's place of the display settings, in twips.
-    const double tpp = 1440.0 / std::max(1.0, static_cast<double>(logicalDpiX()));
+    const double tpp = twipsJePixel(this);
     const Dimsatz& d = modell_.s.dim;
     setGeometry(static_cast<int>(d.form2left.alsDouble() / tpp),
                 static_cast<int>(d.form2top.alsDouble() / tpp),

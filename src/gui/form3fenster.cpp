@@ -1,6 +1,7 @@
 // The widgets of the annual overview and how their events reach Form3.
 #include "gui/form3fenster.h"
 
+#include "gui/twips.h"
 #include "reports/uebersichtcsv.h"
 
 #include <QApplication>
@@ -85,7 +86,7 @@ void Form3Fenster::oeffnen(std::int16_t jahresperson) {
         modell_.Form_Activate();
     });
     // The form's place of the display settings, in twips.
-    const double tpp = 1440.0 / std::max(1.0, static_cast<double>(logicalDpiX()));
+    const double tpp = twipsJePixel(this);
     move(static_cast<int>(modell_.s.dim.form3left.alsDouble() / tpp),
          static_cast<int>(modell_.s.dim.form3top.alsDouble() / tpp));
     show();
@@ -145,7 +146,7 @@ bool Form3Fenster::exportieren(const QString& datei) {
 
 void Form3Fenster::closeEvent(QCloseEvent* ereignis) {
     // Command1 "Schließen" and the window's own close: the place goes to the settings.
-    const double tpp = 1440.0 / std::max(1.0, static_cast<double>(logicalDpiX()));
+    const double tpp = twipsJePixel(this);
     modell_.Command1_Click(static_cast<int>(y() * tpp), static_cast<int>(x() * tpp));
     QWidget::closeEvent(ereignis);
 }

@@ -4,6 +4,7 @@
 #include "core/betragstext.h"
 #include "core/drucker.h"
 #include "druck/druckfenster.h"
+#include "gui/twips.h"
 #include "reports/lstrtablage.h"
 #include "reports/tabellendruck.h"
 
@@ -149,21 +150,17 @@ LStrTabFenster::LStrTabFenster(QWidget* eltern) : QDialog(eltern) {
     auswahlgeaendert();
 }
 
-static double twipsjepixel(const QWidget* w) {
-    return 1440.0 / std::max(1.0, static_cast<double>(w->logicalDpiX()));
-}
-
 void LStrTabFenster::ortbinden(Sitzung& s) {
     sitzung_ = &s;
     const Fensterort ort = lstrtablage(s);
-    const double tpp = twipsjepixel(this);
+    const double tpp = twipsJePixel(this);
     move(static_cast<int>(ort.links / tpp), static_cast<int>(ort.oben / tpp));
 }
 
 void LStrTabFenster::hideEvent(QHideEvent* ereignis) {
     // Form_Unload: the place goes to the display settings.
     if (sitzung_ != nullptr) {
-        const double tpp = twipsjepixel(this);
+        const double tpp = twipsJePixel(this);
         lstrtablagespeichern(*sitzung_, {static_cast<int>(y() * tpp), static_cast<int>(x() * tpp)});
     }
     QDialog::hideEvent(ereignis);

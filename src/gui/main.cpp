@@ -8,6 +8,7 @@
 #include "gui/qtdialoge.h"
 #include "gui/startform.h"
 #include "gui/tablettanbindung.h"
+#include "gui/twips.h"
 #include "gui/uebersichtanbindung.h"
 #include "gui/vorschau.h"
 #include "start/bestandspruefung.h"
@@ -183,7 +184,7 @@ int main(int argc, char** argv) {
     s.installation = LONVIR_INSTALLATION;
     if (const QScreen* bildschirm = QGuiApplication::primaryScreen()) {
         // The screen in twips, for the default window place of a new installation.
-        const double tpp = 1440.0 / bildschirm->logicalDotsPerInchX();
+        const double tpp = lonvir::gui::twipsJePixel(&start);
         s.bildschirmhoehe = static_cast<std::int32_t>(bildschirm->geometry().height() * tpp);
         s.bildschirmbreite = static_cast<std::int32_t>(bildschirm->geometry().width() * tpp);
     }

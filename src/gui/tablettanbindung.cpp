@@ -11,6 +11,7 @@
 #include "gui/passwortfenster.h"
 #include "gui/tarifefenster.h"
 #include "gui/texteditfenster.h"
+#include "gui/twips.h"
 #include "panels/dienstalterseite.h"
 #include "panels/namen.h"
 #include "panels/seiten.h"
@@ -133,9 +134,7 @@ Tablettanbindung::~Tablettanbindung() {
 }
 
 double Tablettanbindung::twipsJePixel() const {
-    const QScreen* bildschirm = f_.screen();
-    const double dpi = bildschirm ? bildschirm->logicalDotsPerInchX() : 96.0;
-    return 1440.0 / (dpi > 0 ? dpi : 96.0);
+    return gui::twipsJePixel(&f_);
 }
 
 // The form in twips, relative to its client area. The window's head is not 640 twips high:
