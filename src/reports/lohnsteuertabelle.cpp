@@ -42,6 +42,8 @@ Tabellenband stufeberechnen(std::int16_t lohnzeitraum, std::int32_t v) {
     return b;
 }
 
+namespace {
+
 Tabellenzeile klassenzeile(const Lohnsteuertabelle& t, std::int16_t steuerklasse) {
     Lohnsteuerlauf l;
     l.re4 = t.tabellenlohn; // the lower bound, in Pfennig
@@ -60,6 +62,8 @@ Tabellenzeile klassenzeile(const Lohnsteuertabelle& t, std::int16_t steuerklasse
     z.kirchensteuer = (l.lstlzz * t.auswahl.kirchensteuersatz).abgeschnitten();
     return z;
 }
+
+} // namespace
 
 bool tabellefuellen(Lohnsteuertabelle& t) {
     const Tabellenband band = stufeberechnen(t.auswahl.lohnzeitraum, t.auswahl.scrollwert);

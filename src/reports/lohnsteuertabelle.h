@@ -76,9 +76,6 @@ struct Lohnsteuertabelle {
 // lines as they are when neither the band nor a list changed since the last fill.
 bool tabellefuellen(Lohnsteuertabelle& t);
 
-// One class's line for the wage of the band, `tabellenlohn`: the fill runs it for each class.
-[[nodiscard]] Tabellenzeile klassenzeile(const Lohnsteuertabelle& t, std::int16_t steuerklasse);
-
 // An amount of Pfennig as DM in "###,###.00": point for thousands, comma for decimals, no
 // leading zero (0 shows as ",00").
 [[nodiscard]] std::string tabellenbetrag(Currency pfennig);

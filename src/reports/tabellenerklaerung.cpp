@@ -4,7 +4,8 @@
 namespace lonvir {
 
 void tabellenzeileerklaeren(Sitzung& s, const Lohnsteuertabelle& t, std::int16_t steuerklasse) {
-    const Tabellenzeile z = klassenzeile(t, steuerklasse);
+    // The fill ran the class for the band's wage already; its line is what the run gives.
+    const Tabellenzeile& z = t.zeilen[steuerklasse];
     for (int i = 0; i <= 27; ++i)
         s.lstwert[i] = 0;
     // The amounts are whole Pfennig already; a band's bound never leaves 32 bits.

@@ -10,7 +10,8 @@ namespace lonvir {
 
 // The working rows of the panel: the band's wage as the gross and the current taxable wage,
 // the band's bounds, and the class's wage tax, surcharge and church tax; every other row 0.
-// The next run of the month fills them for the person again.
+// `t` must be filled (`tabellefuellen`). The next run of the month fills the rows for the
+// person again.
 void tabellenzeileerklaeren(Sitzung& s, const Lohnsteuertabelle& t, std::int16_t steuerklasse);
 
 } // namespace lonvir
