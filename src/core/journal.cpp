@@ -243,18 +243,43 @@ void platzreservieren(Deskriptoren& d, const fs::path& ordner,
 
 Flushzahl gezaehlt;
 
-// The folder's own entries flushed: a file created in it is there after a power cut too.
-bool ordnerflushen(const fs::path& ordner) {
-    const int fd = ::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0)
-        return false;
-    const bool gut = ::fsync(fd) == 0;
-    ::close(fd);
-    ++gezaehlt.ordner;
-    return gut;
-}
+// The working folder, opened once per store for its flushes.
+class Ordner {
+public:
+    explicit Ordner(const fs::path& pfad)
+        : fd_(::open(pfad.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
+          oeffnungsfehler_(fd_ < 0 ? errno : 0) {}
+    ~Ordner() {
+        if (fd_ >= 0)
+            ::close(fd_);
+    }
+    Ordner(const Ordner&) = delete;
+    Ordner& operator=(const Ordner&) = delete;
 
-void journalschreiben(const fs::path& pfad, std::span<const std::uint8_t> bytes) {
+    // The folder's own entries flushed: a file created in it is there after a power cut too.
+    bool eintraegeflushen() {
+        ++gezaehlt.ordner;
+        return offen() && ::fsync(fd_) == 0;
+    }
+    // Every file of the folder's file system flushed.
+    bool allesflushen() {
+        ++gezaehlt.dateisystem;
+        return offen() && ::syncfs(fd_) == 0;
+    }
+
+private:
+    // False with errno of the failed open, so the caller's message names its cause.
+    bool offen() const {
+        if (fd_ < 0)
+            errno = oeffnungsfehler_;
+        return fd_ >= 0;
+    }
+
+    int fd_;
+    int oeffnungsfehler_;
+};
+
+void journalschreiben(Ordner& ordner, const fs::path& pfad, std::span<const std::uint8_t> bytes) {
     const int fd = ::open(pfad.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     bool gut = fd >= 0 && allesschreiben(fd, bytes, 0);
     int fehler = errno;
@@ -266,7 +291,7 @@ void journalschreiben(const fs::path& pfad, std::span<const std::uint8_t> bytes)
         ::close(fd);
     // The journal's name must outlast a power cut as well, or an older journal could be
     // replayed over this input's records.
-    if (gut && !ordnerflushen(pfad.parent_path())) {
+    if (gut && !ordner.eintraegeflushen()) {
         fehler = errno;
         gut = false;
     }
@@ -302,17 +327,11 @@ void anwenden(Deskriptoren& d, const fs::path& ordner,
 
 // Everything applied is on the disk before the journal goes: after a power cut the files hold
 // the input, or the journal still does. One flush of the file system for all files written.
-void gesichert(const fs::path& ordner) {
-    const int fd = ::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    const bool gut = fd >= 0 && ::syncfs(fd) == 0;
-    const int fehler = errno;
-    ++gezaehlt.dateisystem;
-    if (fd >= 0)
-        ::close(fd);
-    if (!gut)
-        throw Dateifehler(ordner.string(),
+void gesichert(Ordner& ordner, const fs::path& pfad) {
+    if (!ordner.allesflushen())
+        throw Dateifehler(pfad.string(),
                           std::string("kann nicht auf die Platte gebracht werden (") +
-                              std::strerror(fehler) + "). Die Eingabe steht vollständig im " +
+                              std::strerror(errno) + "). Die Eingabe steht vollständig im " +
                               "Journal " + dateiname +
                               " und wird beim nächsten Start zu Ende gespeichert.");
 }
@@ -419,9 +438,10 @@ void festschreiben(const fs::path& ordner, const Schreibvorgang& v,
         return;
     platzreservieren(d, ordner, schritte, laengen);
     const fs::path pfad = ordner / dateiname;
-    journalschreiben(pfad, kodieren(schritte));
+    Ordner o(ordner);
+    journalschreiben(o, pfad, kodieren(schritte));
     anwenden(d, ordner, schritte);
-    gesichert(ordner);
+    gesichert(o, ordner);
     ::unlink(pfad.c_str());
 }
 
@@ -442,7 +462,8 @@ Nachholen nachholen(const fs::path& ordner) {
         const std::map<std::string, int> keine;
         Deskriptoren d(ordner, keine);
         anwenden(d, ordner, *schritte);
-        gesichert(ordner);
+        Ordner o(ordner);
+        gesichert(o, ordner);
     }
     if (::unlink(pfad.c_str()) != 0)
         throw Dateifehler(pfad.string(), "kann nicht gelöscht werden");
