@@ -59,37 +59,26 @@ Druckbericht jahresbericht() {
     return b;
 }
 
-Druckbericht gehaelterliste() {
+// A list over the totals of the staff, or of one cost centre: printed and as CSV.
+Druckbericht summenbericht(const char* name, const char* titel,
+                           void (*drucken)(Sitzung&, const Jahressummen&, Drucker&),
+                           Csvtabelle (*csv)(Sitzung&, const Jahressummen&)) {
     Druckbericht b;
-    b.name = "gehaelterliste";
-    b.titel = "Gehälterliste";
+    b.name = name;
+    b.titel = titel;
     b.optionen = {"kostenstelle"};
-    b.drucken = [](Kontext& k, Drucker& d) {
-        gehaelterlistedrucken(k.s, jahressummen(k.s, kostenstelleAus(k)), d);
+    b.drucken = [drucken](Kontext& k, Drucker& d) {
+        drucken(k.s, jahressummen(k.s, kostenstelleAus(k)), d);
     };
-    b.csv = [](Kontext& k) {
-        return gehaelterlistecsv(k.s, jahressummen(k.s, kostenstelleAus(k)));
-    };
-    return b;
-}
-
-Druckbericht monatsuebersicht() {
-    Druckbericht b;
-    b.name = "monatsuebersicht";
-    b.titel = "Monatsübersicht";
-    b.optionen = {"kostenstelle"};
-    b.drucken = [](Kontext& k, Drucker& d) {
-        monatsuebersichtdrucken(k.s, jahressummen(k.s, kostenstelleAus(k)), d);
-    };
-    b.csv = [](Kontext& k) {
-        return monatsuebersichtcsv(k.s, jahressummen(k.s, kostenstelleAus(k)));
-    };
+    b.csv = [csv](Kontext& k) { return csv(k.s, jahressummen(k.s, kostenstelleAus(k))); };
     return b;
 }
 
 const Druckberichtanmeldung jahr(jahresbericht());
-const Druckberichtanmeldung liste(gehaelterliste());
-const Druckberichtanmeldung monate(monatsuebersicht());
+const Druckberichtanmeldung liste(summenbericht("gehaelterliste", "Gehälterliste",
+                                                gehaelterlistedrucken, gehaelterlistecsv));
+const Druckberichtanmeldung monate(summenbericht("monatsuebersicht", "Monatsübersicht",
+                                                 monatsuebersichtdrucken, monatsuebersichtcsv));
 
 } // namespace
 
