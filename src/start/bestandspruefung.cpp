@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -28,21 +29,21 @@ std::string personendatei(int jahr, char schicht, int nummer) {
     return "L" + std::to_string(jahr) + schicht + "." + std::to_string(nummer);
 }
 
-// A file's bytes mapped for reading, without a copy: the check looks at every record of the
-// store at each start. An absent, empty or unreadable file has no bytes.
+// A file's bytes mapped for reading, without a copy, and the identity they were mapped with.
+// An absent, empty or unreadable file has no bytes.
 class Abbild {
 public:
-    Abbild(const Arbeitsordner& ordner, const std::string& name) {
-        const int fd = ::open(ordner.pfad(name).c_str(), O_RDONLY | O_CLOEXEC);
+    explicit Abbild(const std::filesystem::path& pfad) {
+        const int fd = ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC);
         if (fd < 0)
             return;
-        struct stat st {};
-        if (::fstat(fd, &st) == 0 && st.st_size > 0) {
-            void* p = ::mmap(nullptr, static_cast<std::size_t>(st.st_size), PROT_READ, MAP_PRIVATE,
-                             fd, 0);
+        kennung_ = dateikennung(fd);
+        if (kennung_ && kennung_->laenge > 0) {
+            const auto laenge = static_cast<std::size_t>(kennung_->laenge);
+            void* p = ::mmap(nullptr, laenge, PROT_READ, MAP_PRIVATE, fd, 0);
             if (p != MAP_FAILED) {
                 daten_ = static_cast<const std::uint8_t*>(p);
-                laenge_ = static_cast<std::size_t>(st.st_size);
+                laenge_ = laenge;
             }
         }
         ::close(fd);
@@ -54,11 +55,45 @@ public:
     Abbild(const Abbild&) = delete;
     Abbild& operator=(const Abbild&) = delete;
     [[nodiscard]] std::span<const std::uint8_t> bytes() const { return {daten_, laenge_}; }
+    [[nodiscard]] const std::optional<Dateikennung>& kennung() const { return kennung_; }
 
 private:
     const std::uint8_t* daten_ = nullptr;
     std::size_t laenge_ = 0;
+    std::optional<Dateikennung> kennung_;
 };
+
+// A file of the folder as the check finds it: where it lies and its identity (none: absent).
+struct Fund {
+    std::filesystem::path pfad;
+    std::optional<Dateikennung> kennung;
+    [[nodiscard]] std::string name() const { return pfad.filename().string(); }
+    [[nodiscard]] std::int64_t laenge() const { return kennung ? kennung->laenge : 0; }
+};
+
+Fund finden(const Arbeitsordner& ordner, const std::string& name) {
+    Fund f{ordner.ordner() / name, dateikennung(ordner.ordner() / name)};
+    if (!f.kennung) {
+        // Matched without regard to case, as the file set opens it.
+        f.pfad = ordner.pfad(name);
+        f.kennung = dateikennung(f.pfad);
+    }
+    return f;
+}
+
+// A file found sound is noted, unless its entry changed so lately that a second change within
+// the same tick of the file system's clock could go unseen.
+constexpr double unruhespanne = 0.1; // seconds
+
+void vermerken(Pruefvermerk* vermerk, const std::string& name,
+               const std::optional<Dateikennung>& k) {
+    if (vermerk != nullptr && k && !juengstGeaendert(*k, unruhespanne))
+        vermerk->eintragen(name, *k);
+}
+
+bool vermerkt(const Pruefvermerk* vermerk, const Fund& f) {
+    return vermerk != nullptr && f.kennung && vermerk->gilt(f.name(), *f.kennung);
+}
 
 std::string saetze(std::int64_t n) {
     return n == 1 ? "1 Satz" : std::to_string(n) + " Sätze";
@@ -78,11 +113,19 @@ std::int64_t haeufigste(std::span<const std::int64_t> werte) {
     return beste;
 }
 
-std::optional<Schaden> laengenpruefen(const Arbeitsordner& ordner, int jahr, char schicht) {
-    std::array<std::int64_t, 13> laenge{};
+using Schichtdateien = std::array<Fund, 13>; // the months, then the year file
+
+Schichtdateien schichtfinden(const Arbeitsordner& ordner, int jahr, char schicht) {
+    Schichtdateien d;
     for (int m = 1; m <= 13; ++m)
-        laenge[static_cast<std::size_t>(m - 1)] =
-            static_cast<std::int64_t>(ordner.laenge(personendatei(jahr, schicht, m)));
+        d[static_cast<std::size_t>(m - 1)] = finden(ordner, personendatei(jahr, schicht, m));
+    return d;
+}
+
+std::optional<Schaden> laengenpruefen(const Schichtdateien& d, int jahr, char schicht) {
+    std::array<std::int64_t, 13> laenge{};
+    for (std::size_t i = 0; i < laenge.size(); ++i)
+        laenge[i] = d[i].laenge();
     const auto monate = std::span(laenge).first(12);
     const std::int64_t groesste = *std::max_element(monate.begin(), monate.end());
     if (groesste == 0 && laenge[12] == 0)
@@ -119,29 +162,70 @@ std::optional<Schaden> laengenpruefen(const Arbeitsordner& ordner, int jahr, cha
     return std::nullopt;
 }
 
-std::optional<Schaden> saetzepruefen(const Arbeitsordner& ordner, int jahr, char schicht) {
-    for (int m = 1; m <= 12; ++m) {
-        const std::string name = personendatei(jahr, schicht, m);
-        const Abbild abbild(ordner, name);
-        const std::span<const std::uint8_t> b = abbild.bytes();
-        for (std::size_t ab = 0; ab + monatssatz <= b.size(); ab += monatssatz) {
-            const auto satz = b.subspan(ab, monatssatz);
-            // The month the file stands for: neither all FF nor all zeros, a sound record.
-            if (bytes::i16(satz, monatsfeld) == m - 1)
-                continue;
-            const std::string nummer = std::to_string(ab / monatssatz + 1);
-            if (std::all_of(satz.begin(), satz.end(), [](std::uint8_t c) { return c == 0xFF; }))
-                return Schaden{name, "Satz " + nummer + " besteht nur aus FF-Bytes"};
-            if (std::all_of(satz.begin(), satz.end(), [](std::uint8_t c) { return c == 0; }))
-                continue;
-            const std::int16_t monat = bytes::i16(satz, monatsfeld);
-            if (monat != m - 1)
-                return Schaden{name, "Satz " + nummer + " trägt den Monat " +
-                                         std::to_string(monat) + " statt " + std::to_string(m - 1) +
-                                         " (" + monatsnamen[m - 1] + ")"};
-        }
+// A record of the month file of month `m` that a run could have written: it carries the month
+// (and so is neither all FF nor all zeros), or it is all zeros (a record past the end reads so).
+bool monatssatzgesund(std::span<const std::uint8_t> satz, int m) {
+    return bytes::i16(satz, monatsfeld) == m - 1 ||
+           std::all_of(satz.begin(), satz.end(), [](std::uint8_t c) { return c == 0; });
+}
+
+std::optional<Schaden> monatssaetzepruefen(const std::string& name, int m,
+                                           std::span<const std::uint8_t> b) {
+    for (std::size_t ab = 0; ab + monatssatz <= b.size(); ab += monatssatz) {
+        const auto satz = b.subspan(ab, monatssatz);
+        if (monatssatzgesund(satz, m))
+            continue;
+        const std::string nummer = std::to_string(ab / monatssatz + 1);
+        if (std::all_of(satz.begin(), satz.end(), [](std::uint8_t c) { return c == 0xFF; }))
+            return Schaden{name, "Satz " + nummer + " besteht nur aus FF-Bytes"};
+        return Schaden{name, "Satz " + nummer + " trägt den Monat " +
+                                 std::to_string(bytes::i16(satz, monatsfeld)) + " statt " +
+                                 std::to_string(m - 1) + " (" + monatsnamen[m - 1] + ")"};
     }
     return std::nullopt;
+}
+
+std::optional<Schaden> saetzepruefen(const Schichtdateien& d, Pruefvermerk* vermerk) {
+    for (int m = 1; m <= 12; ++m) {
+        const Fund& f = d[static_cast<std::size_t>(m - 1)];
+        if (vermerkt(vermerk, f))
+            continue;
+        const Abbild abbild(f.pfad);
+        if (auto s = monatssaetzepruefen(f.name(), m, abbild.bytes()))
+            return s;
+        vermerken(vermerk, f.name(), abbild.kennung());
+    }
+    return std::nullopt;
+}
+
+// The control characters of the name records 5001 to 6000 among `b`, which lie from `ab` on:
+// the byte offset of the first, if any.
+std::optional<std::int64_t> steuerzeichenInNamen(std::span<const std::uint8_t> b, std::int64_t ab) {
+    const std::int64_t von = std::max<std::int64_t>(ab, 5000 * textsatz);
+    const std::int64_t bis =
+        std::min<std::int64_t>(ab + static_cast<std::int64_t>(b.size()), 6000 * textsatz);
+    for (std::int64_t i = von; i < bis; ++i)
+        if (steuerzeichen(b[static_cast<std::size_t>(i - ab)]))
+            return i;
+    return std::nullopt;
+}
+
+// The month a file of the person set stands for, 13 for the year file, 0 for any other file
+// ("L1997I.3", matched without regard to case as the set opens it).
+int personendateinummer(const std::string& name) {
+    if (name.size() < 8 || name.size() > 9 || std::toupper(name[0]) != 'L' ||
+        name.compare(1, 3, "199") != 0 || (name[4] != '7' && name[4] != '8') || name[6] != '.')
+        return 0;
+    const char schicht = static_cast<char>(std::toupper(static_cast<unsigned char>(name[5])));
+    if (schicht != 'I' && schicht != 'P' && schicht != 'R')
+        return 0;
+    int nummer = 0;
+    for (std::size_t i = 7; i < name.size(); ++i) {
+        if (name[i] < '0' || name[i] > '9')
+            return 0;
+        nummer = nummer * 10 + (name[i] - '0');
+    }
+    return name[7] != '0' && nummer >= 1 && nummer <= 13 ? nummer : 0;
 }
 
 bool ganzImBereich(Currency c, std::int64_t von, std::int64_t bis) {
@@ -171,37 +255,57 @@ bool steuerzeichen(unsigned char c) {
     return (c >= 1 && c < 0x20) || c == 0x7F;
 }
 
-std::optional<Schaden> personendateienpruefen(const Arbeitsordner& ordner, int jahr) {
-    for (char schicht : {'I', 'P', 'R'})
-        if (auto s = laengenpruefen(ordner, jahr, schicht))
+std::optional<Schaden> personendateienpruefen(const Arbeitsordner& ordner, int jahr,
+                                              Pruefvermerk* vermerk) {
+    std::array<Schichtdateien, 3> schichten;
+    const char buchstaben[3] = {'I', 'P', 'R'};
+    for (std::size_t i = 0; i < 3; ++i) {
+        schichten[i] = schichtfinden(ordner, jahr, buchstaben[i]);
+        if (auto s = laengenpruefen(schichten[i], jahr, buchstaben[i]))
             return s;
-    for (char schicht : {'I', 'P', 'R'})
-        if (auto s = saetzepruefen(ordner, jahr, schicht))
-            return s;
-    return std::nullopt;
-}
-
-std::optional<Schaden> textepruefen(const Arbeitsordner& ordner) {
-    const std::string name = "Texte.txt";
-    const Abbild abbild(ordner, name);
-    const std::span<const std::uint8_t> b = abbild.bytes();
-    for (std::int64_t nummer = 5001; nummer <= 6000; ++nummer) {
-        const std::size_t ab = static_cast<std::size_t>((nummer - 1) * textsatz);
-        if (ab >= b.size())
-            break;
-        // A record cut short at the end reads as zeros behind its bytes.
-        const auto satz = b.subspan(ab, std::min<std::size_t>(textsatz, b.size() - ab));
-        if (std::any_of(satz.begin(), satz.end(), steuerzeichen))
-            return Schaden{name, "der Name in Satz " + std::to_string(nummer) + " (Person " +
-                                     std::to_string(nummer - 5000) + ") enthält Steuerzeichen"};
     }
+    for (const Schichtdateien& d : schichten)
+        if (auto s = saetzepruefen(d, vermerk))
+            return s;
     return std::nullopt;
 }
 
-std::optional<Schaden> bestandpruefen(const Arbeitsordner& ordner, int jahr) {
-    if (auto s = textepruefen(ordner))
+std::optional<Schaden> textepruefen(const Arbeitsordner& ordner, Pruefvermerk* vermerk) {
+    const Fund f = finden(ordner, "Texte.txt");
+    if (vermerkt(vermerk, f))
+        return std::nullopt;
+    const Abbild abbild(f.pfad);
+    // A record cut short at the end reads as zeros behind its bytes, and zeros are no control
+    // characters.
+    if (const auto stelle = steuerzeichenInNamen(abbild.bytes(), 0)) {
+        const std::int64_t nummer = *stelle / textsatz + 1;
+        return Schaden{"Texte.txt", "der Name in Satz " + std::to_string(nummer) + " (Person " +
+                                        std::to_string(nummer - 5000) + ") enthält Steuerzeichen"};
+    }
+    vermerken(vermerk, f.name(), abbild.kennung());
+    return std::nullopt;
+}
+
+std::optional<Schaden> bestandpruefen(const Arbeitsordner& ordner, int jahr,
+                                      Pruefvermerk* vermerk) {
+    if (auto s = textepruefen(ordner, vermerk))
         return s;
-    return personendateienpruefen(ordner, jahr == 1998 ? 1998 : 1997);
+    return personendateienpruefen(ordner, jahr == 1998 ? 1998 : 1997, vermerk);
+}
+
+bool gesundgeschrieben(const std::string& name, std::int64_t versatz,
+                       std::span<const std::uint8_t> b) {
+    const int nummer = personendateinummer(name);
+    if (nummer >= 1 && nummer <= 12)
+        return versatz % monatssatz == 0 && static_cast<std::int64_t>(b.size()) % monatssatz == 0 &&
+               !monatssaetzepruefen(name, nummer, b);
+    if (nummer == 13)
+        return true; // the check looks at the year file's length only
+    if (name.size() == 9 && std::equal(name.begin(), name.end(), "texte.txt", [](char a, char c) {
+            return std::tolower(static_cast<unsigned char>(a)) == c;
+        }))
+        return !steuerzeichenInNamen(b, versatz);
+    return true;
 }
 
 std::optional<std::string> dimpruefen(const Dimsatz& d) {

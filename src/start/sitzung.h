@@ -5,6 +5,7 @@
 #include "core/currency.h"
 #include "core/dialoge.h"
 #include "core/feld.h"
+#include "core/pruefvermerk.h"
 #include "core/satzdatei.h"
 #include "records/dimsatz.h"
 #include "records/personalsatz.h"
@@ -101,6 +102,9 @@ struct Sitzung {
     Schreibvorgang vorgang;
     // What the action under way has read from the files (Lesezeitraum, Vorgang).
     Lesepuffer lesepuffer;
+    // The files the check at open found sound, kept beside the folder so that the next start
+    // reads only what changed; the session's own stores keep it up to date.
+    Pruefvermerk pruefvermerk;
     // The folder is opened for reading only: the files are not created, and what the session
     // computes stays in memory; nothing is ever written.
     bool nurLesen = false;

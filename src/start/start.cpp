@@ -68,7 +68,9 @@ Startergebnis starten(Sitzung& s) {
         // A working folder without a store is first seeded from the installation data.
         if (!s.installation.empty() && installation::ohnebestand(s.ordner))
             installation::einsetzen(s.installation, s.ordner);
-        if (auto schaden = bestandpruefen(s.ordner, s.jahr))
+        // Only the files that changed since they were last found sound are read.
+        s.pruefvermerk.laden(s.ordner.ordner(), pruefregeln);
+        if (auto schaden = bestandpruefen(s.ordner, s.jahr, &s.pruefvermerk))
             throw Bestandsschaden(*schaden);
     }
     // The start reads the names and settings once.

@@ -3,10 +3,12 @@
 
 #include "core/journal.h"
 #include "core/laufzeitfehler.h"
+#include "start/bestandspruefung.h"
 #include "start/dateisatz.h"
 
 #include <exception>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace lonvir {
@@ -24,6 +26,54 @@ std::map<std::string, int> offeneDateien(Sitzung& s, const std::vector<const Sat
     for (const Satzdatei* d : auch)
         eintragen(*d);
     return offen;
+}
+
+// The files a store writes that are noted as found sound, with their identity before it.
+using Vorher = std::map<std::string, std::optional<Dateikennung>>;
+
+std::optional<Dateikennung> kennungVon(const Schreibvorgang::Schritt& schritt,
+                                       const std::map<std::string, int>& offen) {
+    const auto it = offen.find(schritt.pfad.filename().string());
+    return it != offen.end() ? dateikennung(it->second) : dateikennung(schritt.pfad);
+}
+
+Vorher vermerkteVorher(const Sitzung& s, const std::vector<Schreibvorgang::Schritt>& schritte,
+                       const std::map<std::string, int>& offen) {
+    Vorher vorher;
+    if (!s.pruefvermerk.aktiv())
+        return vorher;
+    for (const auto& schritt : schritte) {
+        const std::string name = schritt.pfad.filename().string();
+        if (!vorher.contains(name))
+            vorher.emplace(name, kennungVon(schritt, offen));
+    }
+    return vorher;
+}
+
+// After a store: a file that was sound before it and got only sound records stays noted as
+// sound, with its identity now; any other file it touched is read again by the next start. A
+// write by another program between the two identities would change the first of them.
+void vermerknachtragen(Sitzung& s, const Vorher& vorher,
+                       const std::vector<Schreibvorgang::Schritt>& schritte,
+                       const std::map<std::string, int>& offen) {
+    std::map<std::string, bool> gesund;
+    for (const auto& schritt : schritte) {
+        const std::string name = schritt.pfad.filename().string();
+        const auto it = vorher.find(name);
+        const bool warGesund =
+            it != vorher.end() && it->second && s.pruefvermerk.gilt(name, *it->second);
+        bool& g = gesund.try_emplace(name, warGesund).first->second;
+        g = g && schritt.art == Schreibvorgang::Schritt::Art::schreiben &&
+            gesundgeschrieben(name, schritt.versatz, schritt.bytes);
+    }
+    for (const auto& schritt : schritte) {
+        const std::string name = schritt.pfad.filename().string();
+        const auto k = gesund[name] ? kennungVon(schritt, offen) : std::nullopt;
+        if (k)
+            s.pruefvermerk.eintragen(name, *k);
+        else
+            s.pruefvermerk.streichen(name);
+    }
 }
 } // namespace
 
@@ -48,9 +98,16 @@ void Vorgang::abschliessen(const std::vector<const Satzdatei*>& auch) {
     const bool neuOeffnen = s_.vorgang.loescht();
     // The files change now: what the action has read of them is old.
     s_.lesepuffer.allesvergessen();
+    const std::map<std::string, int> offen = offeneDateien(s_, auch);
+    const auto schritte =
+        s_.pruefvermerk.aktiv() ? s_.vorgang.schritte() : std::vector<Schreibvorgang::Schritt>{};
+    const Vorher vorher = vermerkteVorher(s_, schritte, offen);
     try {
-        journal::festschreiben(s_.ordner.ordner(), s_.vorgang, offeneDateien(s_, auch));
+        journal::festschreiben(s_.ordner.ordner(), s_.vorgang, offen);
+        vermerknachtragen(s_, vorher, schritte, offen);
     } catch (...) {
+        for (const auto& [name, k] : vorher)
+            s_.pruefvermerk.streichen(name);
         s_.vorgang.verwerfen();
         if (neuOeffnen)
             dateienoeffnen(s_);

@@ -3,9 +3,11 @@
 #include "clilauf.h"
 #include "testhilfe.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 #include <random>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace lonvir {
@@ -113,6 +115,26 @@ TEST(CliBestandsschaden, EinSatzMitFremdemMonatIstEinSchaden) {
     EXPECT_EQ(l.status, 4);
     EXPECT_TRUE(enthaelt(l.aus, "Die Datei L1997I.3 ist beschädigt: Satz 2 trägt den Monat 5 "
                                 "statt 2 (März)"))
+        << l.aus;
+    EXPECT_TRUE(m.unveraendert());
+}
+
+TEST(CliBestandsschaden, EinSchadenNachDemLetztenSpeichernWirdTrotzDerVermerkeGemeldet) {
+    // The start reads only the files that changed since they were last found sound; a file
+    // damaged right after the program's own store has changed, and is read.
+    Musterordner m;
+    std::this_thread::sleep_for(std::chrono::milliseconds(150));
+    ASSERT_EQ(clilauf("zeigen --person 1 --monat 1 " + m.o()).status, 0);
+    ASSERT_EQ(clilauf("setzen --person 2 --monat 3 --zeile 12 --betrag 2500 " + m.o()).status, 0);
+    std::string maerz = test::dateiinhalt(m.t.pfad(), "L1997I.3");
+    std::fill(maerz.begin() + 541, maerz.begin() + 2 * 541, '\xFF');
+    test::dateisetzen(m.t.pfad(), "L1997I.3", maerz);
+    m.vorher = test::ordnerinhalt(m.t.pfad());
+    const test::Clilauf l =
+        clilauf("setzen --person 1 --monat 3 --zeile 12 --betrag 100 " + m.o(), true);
+    EXPECT_EQ(l.status, 4);
+    EXPECT_TRUE(enthaelt(l.aus, "Die Datei L1997I.3 ist beschädigt: Satz 2 besteht nur aus "
+                                "FF-Bytes"))
         << l.aus;
     EXPECT_TRUE(m.unveraendert());
 }

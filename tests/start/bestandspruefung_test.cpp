@@ -9,7 +9,9 @@
 #include "start/texte.h"
 #include "testhilfe.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace lonvir {
 
@@ -158,6 +160,101 @@ TEST(Bestandspruefung, EinGetippterNameBekommtKeinSteuerzeichen) {
     textschreiben(m.s, 5003, "Anna\tBerg\x01");
     EXPECT_EQ(textgetrimmt(m.s, 5003), "Anna Berg");
     EXPECT_FALSE(textepruefen(m.s.ordner));
+}
+
+} // namespace lonvir
+
+namespace lonvir {
+
+namespace {
+// The identity of a file of the folder now.
+Dateikennung jetzt(const fs::path& ordner, const std::string& name) {
+    return *dateikennung(ordner / name);
+}
+
+std::string ffSatzAn(std::string monat, std::size_t satz) {
+    std::fill(monat.begin() + static_cast<std::ptrdiff_t>(satz * 541),
+              monat.begin() + static_cast<std::ptrdiff_t>((satz + 1) * 541), '\xFF');
+    return monat;
+}
+} // namespace
+
+TEST(Bestandspruefung, EinVermerkterMonatWirdNichtNochEinmalGelesen) {
+    test::Musterumgebung m;
+    test::Tempordner ablage;
+    const fs::path o = m.ordner.pfad();
+    test::dateisetzen(o, "L1997P.5", ffSatzAn(test::dateiinhalt(o, "L1997P.5"), 1));
+    Pruefvermerk v;
+    v.laden(o, pruefregeln, ablage.pfad());
+    // Noted as sound with exactly this identity, the file is taken as sound without a look.
+    v.eintragen("L1997P.5", jetzt(o, "L1997P.5"));
+    EXPECT_FALSE(bestandpruefen(m.s.ordner, 1997, &v));
+    // Without the note, or once the file changes, it is read and the damage found.
+    ASSERT_TRUE(bestandpruefen(m.s.ordner, 1997));
+    test::dateisetzen(o, "L1997P.5", ffSatzAn(test::dateiinhalt(o, "L1997P.5"), 2));
+    const auto s = bestandpruefen(m.s.ordner, 1997, &v);
+    ASSERT_TRUE(s);
+    EXPECT_EQ(s->meldung(), "Die Datei L1997P.5 ist beschädigt: Satz 2 besteht nur aus FF-Bytes. "
+                            "Das Programm schreibt nichts in diesen Arbeitsordner.");
+}
+
+TEST(Bestandspruefung, DieLaengenWerdenAuchBeiVermerktenDateienGeprueft) {
+    test::Musterumgebung m;
+    test::Tempordner ablage;
+    const fs::path o = m.ordner.pfad();
+    const std::string mai = test::dateiinhalt(o, "L1997R.5");
+    test::dateisetzen(o, "L1997R.5", mai + std::string(541, '\0'));
+    Pruefvermerk v;
+    v.laden(o, pruefregeln, ablage.pfad());
+    v.eintragen("L1997R.5", jetzt(o, "L1997R.5"));
+    const auto s = bestandpruefen(m.s.ordner, 1997, &v);
+    ASSERT_TRUE(s);
+    EXPECT_EQ(s->datei, "L1997R.5");
+}
+
+TEST(Bestandspruefung, NurGesundeUndNichtEbenGeaenderteDateienWerdenVermerkt) {
+    test::Musterumgebung m;
+    test::Tempordner ablage;
+    const fs::path o = m.ordner.pfad();
+    Pruefvermerk v;
+    v.laden(o, pruefregeln, ablage.pfad());
+    // Just written: a second write within the same tick of a coarse clock could keep the
+    // identity, so nothing is noted yet.
+    EXPECT_FALSE(bestandpruefen(m.s.ordner, 1997, &v));
+    EXPECT_FALSE(v.gilt("L1997I.1", jetzt(o, "L1997I.1")));
+    std::this_thread::sleep_for(std::chrono::milliseconds(150));
+    test::dateisetzen(o, "L1997I.4", ffSatzAn(test::dateiinhalt(o, "L1997I.4"), 0));
+    EXPECT_TRUE(bestandpruefen(m.s.ordner, 1997, &v));
+    EXPECT_TRUE(v.gilt("L1997I.1", jetzt(o, "L1997I.1")));
+    EXPECT_TRUE(v.gilt("Texte.txt", jetzt(o, "Texte.txt")));
+    EXPECT_FALSE(v.gilt("L1997I.4", jetzt(o, "L1997I.4")));
+}
+
+TEST(Bestandspruefung, GesundGeschriebenSindGanzeSaetzeMitIhremMonat) {
+    test::Musterumgebung m;
+    const std::string maerz = test::dateiinhalt(m.ordner.pfad(), "L1997I.3");
+    const auto bytes = [](const std::string& s) {
+        return std::span(reinterpret_cast<const std::uint8_t*>(s.data()), s.size());
+    };
+    const std::string satz2 = maerz.substr(541, 541);
+    EXPECT_TRUE(gesundgeschrieben("L1997I.3", 541, bytes(satz2)));
+    EXPECT_TRUE(gesundgeschrieben("l1997i.3", 541, bytes(satz2)));
+    EXPECT_TRUE(gesundgeschrieben("L1997I.3", 0, bytes(maerz.substr(0, 2 * 541))));
+    EXPECT_TRUE(gesundgeschrieben("L1997I.3", 541, bytes(std::string(541, '\0'))));
+    // The month of another file, a record not whole or not where a record begins, FF bytes.
+    EXPECT_FALSE(gesundgeschrieben("L1997I.4", 541, bytes(satz2)));
+    EXPECT_FALSE(gesundgeschrieben("L1997I.3", 540, bytes(satz2)));
+    EXPECT_FALSE(gesundgeschrieben("L1997I.3", 541, bytes(satz2.substr(0, 100))));
+    EXPECT_FALSE(gesundgeschrieben("L1997I.3", 541, bytes(std::string(541, '\xFF'))));
+    // The year file is checked by its length only.
+    EXPECT_TRUE(gesundgeschrieben("L1997I.13", 7, bytes(std::string(3, '\xFF'))));
+    // A control character is damage in a name record only.
+    const std::string name = "Hans\x01" + std::string(30, ' ');
+    EXPECT_FALSE(gesundgeschrieben("Texte.txt", 5000 * 35, bytes(name)));
+    EXPECT_FALSE(gesundgeschrieben("TEXTE.TXT", 5999 * 35, bytes(name)));
+    EXPECT_TRUE(gesundgeschrieben("Texte.txt", 4999 * 35, bytes(name)));
+    EXPECT_TRUE(gesundgeschrieben("Texte.txt", 6000 * 35, bytes(name)));
+    EXPECT_TRUE(gesundgeschrieben("Texte.txt", 5000 * 35, bytes(std::string(35, 'x'))));
 }
 
 } // namespace lonvir

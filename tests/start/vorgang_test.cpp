@@ -227,3 +227,49 @@ TEST(Vorgang, DasFensterBietetBeiEinemSchadenNurLesenOderEnde) {
 }
 
 } // namespace lonvir
+
+namespace lonvir {
+
+namespace {
+bool vermerktJetzt(const Sitzung& s, const std::string& name) {
+    const auto k = dateikennung(s.ordner.ordner() / name);
+    return k && s.pruefvermerk.gilt(name, *k);
+}
+
+std::string monatsname(int monat) {
+    return "L1997I." + std::to_string(monat);
+}
+} // namespace
+
+TEST(Vorgang, EinSpeichernHaeltDieVermerkeSeinerGesundenDateienAufDemStand) {
+    test::Musterumgebung m;
+    test::Tempordner ablage;
+    m.s.pruefvermerk.laden(m.ordner.pfad(), pruefregeln, ablage.pfad());
+    for (int monat = 1; monat <= 12; ++monat)
+        m.s.pruefvermerk.eintragen(monatsname(monat),
+                                   *dateikennung(m.ordner.pfad() / monatsname(monat)));
+    // Another program writes March between the check and the store: March is read again.
+    test::dateisetzen(m.ordner.pfad(), "L1997I.3", test::dateiinhalt(m.ordner.pfad(), "L1997I.3"));
+    monatladen(m.s, 2, 1);
+    betragbestaetigen(m.s, 12, 2500); // February and the months after it
+    EXPECT_TRUE(vermerktJetzt(m.s, "L1997I.1"));
+    EXPECT_TRUE(vermerktJetzt(m.s, "L1997I.2"));
+    EXPECT_FALSE(vermerktJetzt(m.s, "L1997I.3"));
+    for (int monat = 4; monat <= 12; ++monat)
+        EXPECT_TRUE(vermerktJetzt(m.s, monatsname(monat))) << monat;
+
+    // A record no run writes takes the file's note away.
+    std::vector<std::uint8_t> ff(541, 0xFF);
+    alsVorgang(m.s, [&] { m.s.datei(5).schreiben(1, ff); });
+    EXPECT_FALSE(vermerktJetzt(m.s, "L1997I.5"));
+    EXPECT_TRUE(vermerktJetzt(m.s, "L1997I.6"));
+
+    // The notes outlive the session: the next start reads only what changed.
+    m.s.pruefvermerk.sichern();
+    Pruefvermerk neu;
+    neu.laden(m.ordner.pfad(), pruefregeln, ablage.pfad());
+    EXPECT_TRUE(neu.gilt("L1997I.12", *dateikennung(m.ordner.pfad() / "L1997I.12")));
+    EXPECT_FALSE(neu.gilt("L1997I.5", *dateikennung(m.ordner.pfad() / "L1997I.5")));
+}
+
+} // namespace lonvir
