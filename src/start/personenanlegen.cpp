@@ -42,13 +42,13 @@ void schichtfuellen(Sitzung& s, std::int32_t ab, Personalsatz& satz) {
     dimschreiben(s);
 }
 
-void personenanlegen(Sitzung& s) {
+bool personenanlegen(Sitzung& s) {
     s.anzahlnamen = personenzaehlen(s);
     if (s.anzahlnamen < 6)
         namenvergeben(s);
     const std::int32_t gespeichert = gespeichertesaetze(s);
     if (s.anzahlnamen <= gespeichert)
-        return;
+        return false;
     Personalsatz satz = Personalsatz::neu(0);
     // The new persons stand in all three layers, or in none.
     alsVorgang(s, [&] {
@@ -58,6 +58,7 @@ void personenanlegen(Sitzung& s) {
             schichtfuellen(s, gespeichert, satz);
         }
     });
+    return true;
 }
 
 } // namespace lonvir

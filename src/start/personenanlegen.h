@@ -15,6 +15,7 @@ void schichtfuellen(Sitzung& s, std::int32_t ab, Personalsatz& satz);
 
 // Names the first 20 persons of a store with fewer than 6 and fills the records up to the
 // count in all three layers. Leaves the last layer's set open: the caller reopens its own.
-void personenanlegen(Sitzung& s);
+// Whether it filled any (and so opened the layers' sets).
+bool personenanlegen(Sitzung& s);
 
 } // namespace lonvir

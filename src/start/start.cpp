@@ -82,13 +82,13 @@ Startergebnis starten(Sitzung& s) {
     voelesen(s);
     dimlesen(s);
     // A folder opened for reading only gets no new persons: it is shown as it stands.
-    if (s.nurLesen)
+    if (s.nurLesen) {
         s.anzahlnamen = personenzaehlen(s);
-    else
-        personenanlegen(s);
-    // Person creation leaves the last layer open; reopen the layer the start asked for.
-    s.schicht = schicht;
-    dateienoeffnen(s);
+    } else if (personenanlegen(s)) {
+        // Person creation leaves the last layer open; reopen the layer the start asked for.
+        s.schicht = schicht;
+        dateienoeffnen(s);
+    }
     const Startergebnis ergebnis = startsperre(s);
     s.startphase = 0;
     s.aenderungssperre = 0;

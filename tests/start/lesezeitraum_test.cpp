@@ -1,5 +1,6 @@
 // One action reads each record of its files once: what it read stays until the action ends or
 // the session writes the file.
+#include "start/dateisatz.h"
 #include "start/satzzugriff.h"
 #include "start/texte.h"
 #include "start/vorgang.h"
@@ -83,6 +84,41 @@ TEST(Lesezeitraum, DieTexttabelleWirdAufEinmalGelesen) {
     EXPECT_EQ(textgetrimmt(s, 5002), "2. Name");
     textschreiben(s, 5003, "Dritte");
     EXPECT_EQ(textgetrimmt(s, 5002), "Neuer Name");
+}
+
+TEST(Lesezeitraum, DieTexttabelleDientDerNaechstenHandlungSolangeSieUnveraendertIst) {
+    test::Umgebung u;
+    Sitzung& s = u.s;
+    {
+        Lesezeitraum zeitraum(s);
+        EXPECT_EQ(textgetrimmt(s, 5001), "1. Name");
+    }
+    // Kept with the file's identity: unchanged, the next action takes it as read; renamed
+    // behind the session's back (the same length), it is read again.
+    {
+        Lesezeitraum zeitraum(s);
+        EXPECT_EQ(textgetrimmt(s, 5002), "2. Name");
+    }
+    const int fd = ::open(s.datei(datei::texte).pfad().c_str(), O_WRONLY);
+    const std::string neu = "Neuer Name";
+    ASSERT_EQ(::pwrite(fd, neu.data(), neu.size(), 5001 * 35), static_cast<ssize_t>(neu.size()));
+    ::close(fd);
+    {
+        Lesezeitraum zeitraum(s);
+        EXPECT_EQ(textgetrimmt(s, 5002), "Neuer Name");
+    }
+    // So is the table after the session's own store and after the set is opened anew.
+    alsVorgang(s, [&] { textschreiben(s, 5003, "Dritte"); });
+    {
+        Lesezeitraum zeitraum(s);
+        EXPECT_EQ(textgetrimmt(s, 5003), "Dritte");
+    }
+    dateienoeffnen(s);
+    {
+        Lesezeitraum zeitraum(s);
+        EXPECT_EQ(textgetrimmt(s, 5003), "Dritte");
+        EXPECT_EQ(textgetrimmt(s, 5002), "Neuer Name");
+    }
 }
 
 } // namespace lonvir
