@@ -419,10 +419,11 @@ Flushzahl flushzahl() {
     return gezaehlt;
 }
 
-void festschreiben(const fs::path& ordner, const Schreibvorgang& v,
-                   const std::map<std::string, int>& offen) {
+Aenderungen festschreiben(const fs::path& ordner, const Schreibvorgang& v,
+                          const std::map<std::string, int>& offen,
+                          const std::function<void(const Aenderungen&)>& vorDemAnwenden) {
     if (v.leer())
-        return;
+        return {};
     std::vector<Schreibvorgang::Schritt> schritte = v.schritte();
     const fs::path normal = ordner.lexically_normal();
     for (const auto& s : schritte) {
@@ -435,14 +436,17 @@ void festschreiben(const fs::path& ordner, const Schreibvorgang& v,
     schritte = aenderungen(d, std::move(schritte), laengen);
     // Nothing changes: no journal, no flush.
     if (schritte.empty())
-        return;
+        return {};
     platzreservieren(d, ordner, schritte, laengen);
     const fs::path pfad = ordner / dateiname;
     Ordner o(ordner);
     journalschreiben(o, pfad, kodieren(schritte));
+    if (vorDemAnwenden)
+        vorDemAnwenden(schritte);
     anwenden(d, ordner, schritte);
     gesichert(o, ordner);
     ::unlink(pfad.c_str());
+    return schritte;
 }
 
 std::optional<std::vector<Schreibvorgang::Schritt>> lesen(const fs::path& ordner) {

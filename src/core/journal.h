@@ -9,6 +9,7 @@
 #include "core/schreibvorgang.h"
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -39,8 +40,12 @@ struct Flushzahl {
 // Throws Dateifehler: before the journal is complete nothing has changed and the message says
 // "Es wurde nichts gespeichert."; a failure while applying leaves the complete journal, which
 // the next start applies.
-void festschreiben(const std::filesystem::path& ordner, const Schreibvorgang& v,
-                   const std::map<std::string, int>& offen = {});
+// `vorDemAnwenden` sees the changes once the journal is safe and before they reach the files;
+// the changes that were applied are returned (none when nothing changed).
+using Aenderungen = std::vector<Schreibvorgang::Schritt>;
+Aenderungen festschreiben(const std::filesystem::path& ordner, const Schreibvorgang& v,
+                          const std::map<std::string, int>& offen = {},
+                          const std::function<void(const Aenderungen&)>& vorDemAnwenden = {});
 
 enum class Nachholen { keins, angewendet, verworfen };
 // At start: applies a complete journal left by an interrupted store and discards an

@@ -31,6 +31,8 @@ public:
 
     // Whether file `name` of the folder was found sound with exactly this identity.
     [[nodiscard]] bool gilt(const std::string& name, const Dateikennung& k) const;
+    // Whether file `name` is noted at all, with whatever identity.
+    [[nodiscard]] bool enthaelt(const std::string& name) const { return eintraege_.contains(name); }
     void eintragen(const std::string& name, const Dateikennung& k);
     void streichen(const std::string& name);
 

@@ -28,7 +28,7 @@ std::map<std::string, int> offeneDateien(Sitzung& s, const std::vector<const Sat
     return offen;
 }
 
-// The files a store writes that are noted as found sound, with their identity before it.
+// The identities of the noted files a store changes, taken before the changes reach them.
 using Vorher = std::map<std::string, std::optional<Dateikennung>>;
 
 std::optional<Dateikennung> kennungVon(const Schreibvorgang::Schritt& schritt,
@@ -37,42 +37,42 @@ std::optional<Dateikennung> kennungVon(const Schreibvorgang::Schritt& schritt,
     return it != offen.end() ? dateikennung(it->second) : dateikennung(schritt.pfad);
 }
 
-Vorher vermerkteVorher(const Sitzung& s, const std::vector<Schreibvorgang::Schritt>& schritte,
+Vorher vermerkteVorher(const Pruefvermerk& vermerk, const journal::Aenderungen& aenderungen,
                        const std::map<std::string, int>& offen) {
     Vorher vorher;
-    if (!s.pruefvermerk.aktiv())
-        return vorher;
-    for (const auto& schritt : schritte) {
+    for (const auto& schritt : aenderungen) {
         const std::string name = schritt.pfad.filename().string();
         if (!vorher.contains(name))
-            vorher.emplace(name, kennungVon(schritt, offen));
+            vorher.emplace(name,
+                           vermerk.enthaelt(name) ? kennungVon(schritt, offen) : std::nullopt);
     }
     return vorher;
 }
 
 // After a store: a file that was sound before it and got only sound records stays noted as
-// sound, with its identity now; any other file it touched is read again by the next start. A
-// write by another program between the two identities would change the first of them.
-void vermerknachtragen(Sitzung& s, const Vorher& vorher,
-                       const std::vector<Schreibvorgang::Schritt>& schritte,
+// sound, with its identity now; any other file it changed is read again by the next start. A
+// write by another program between the check and the store changes the identity before it.
+void vermerknachtragen(Pruefvermerk& vermerk, const Vorher& vorher,
+                       const journal::Aenderungen& aenderungen,
                        const std::map<std::string, int>& offen) {
+    if (!vermerk.aktiv())
+        return;
     std::map<std::string, bool> gesund;
-    for (const auto& schritt : schritte) {
+    for (const auto& schritt : aenderungen) {
         const std::string name = schritt.pfad.filename().string();
         const auto it = vorher.find(name);
-        const bool warGesund =
-            it != vorher.end() && it->second && s.pruefvermerk.gilt(name, *it->second);
+        const bool warGesund = it != vorher.end() && it->second && vermerk.gilt(name, *it->second);
         bool& g = gesund.try_emplace(name, warGesund).first->second;
         g = g && schritt.art == Schreibvorgang::Schritt::Art::schreiben &&
             gesundgeschrieben(name, schritt.versatz, schritt.bytes);
     }
-    for (const auto& schritt : schritte) {
+    for (const auto& schritt : aenderungen) {
         const std::string name = schritt.pfad.filename().string();
         const auto k = gesund[name] ? kennungVon(schritt, offen) : std::nullopt;
         if (k)
-            s.pruefvermerk.eintragen(name, *k);
+            vermerk.eintragen(name, *k);
         else
-            s.pruefvermerk.streichen(name);
+            vermerk.streichen(name);
     }
 }
 } // namespace
@@ -99,15 +99,18 @@ void Vorgang::abschliessen(const std::vector<const Satzdatei*>& auch) {
     // The files change now: what the action has read of them is old.
     s_.lesepuffer.allesvergessen();
     const std::map<std::string, int> offen = offeneDateien(s_, auch);
-    const auto schritte =
-        s_.pruefvermerk.aktiv() ? s_.vorgang.schritte() : std::vector<Schreibvorgang::Schritt>{};
-    const Vorher vorher = vermerkteVorher(s_, schritte, offen);
+    Pruefvermerk& vermerk = s_.pruefvermerk;
+    Vorher vorher;
     try {
-        journal::festschreiben(s_.ordner.ordner(), s_.vorgang, offen);
-        vermerknachtragen(s_, vorher, schritte, offen);
+        const journal::Aenderungen geschrieben = journal::festschreiben(
+            s_.ordner.ordner(), s_.vorgang, offen, [&](const journal::Aenderungen& a) {
+                if (vermerk.aktiv())
+                    vorher = vermerkteVorher(vermerk, a, offen);
+            });
+        vermerknachtragen(vermerk, vorher, geschrieben, offen);
     } catch (...) {
         for (const auto& [name, k] : vorher)
-            s_.pruefvermerk.streichen(name);
+            vermerk.streichen(name);
         s_.vorgang.verwerfen();
         if (neuOeffnen)
             dateienoeffnen(s_);
