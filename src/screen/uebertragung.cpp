@@ -1,7 +1,6 @@
 // The transfer buttons: the person's twelve months and year record are read in one layer and
-// written in the other. The files of a layer other than the one on the screen are opened once
-// beside the set, so both layers stand open for the whole transfer; the set on the screen
-// stays open as it is.
+// written in the other. The files of a layer other than the one on the screen stay open beside
+// the set from one transfer to the next; the set on the screen stays open as it is.
 #include "screen/uebertragung.h"
 
 #include "start/dateisatz.h"
@@ -11,20 +10,7 @@
 
 namespace lonvir {
 
-namespace {
-
-// The person files of `schicht`: the set's own for the layer on the screen, else `andere`.
-Satzdatei& personendatei(Sitzung& s, Personendateien& andere, std::int16_t schicht, int nummer) {
-    if (schicht == s.schicht)
-        return s.datei(nummer);
-    return andere[static_cast<std::size_t>(nummer)];
-}
-
-} // namespace
-
 void uebertragen(Sitzung& s, std::int16_t von, std::int16_t nach) {
-    Personendateien quelle = personendateienoeffnen(s, von == s.schicht ? -1 : von);
-    Personendateien ziel = personendateienoeffnen(s, nach == s.schicht ? -1 : nach);
     // The person arrives whole in the target, or not at all.
     Vorgang v(s);
     std::vector<const Satzdatei*> zieldateien;
@@ -32,8 +18,8 @@ void uebertragen(Sitzung& s, std::int16_t von, std::int16_t nach) {
         for (int nummer = 1; nummer <= datei::jahressaetze; ++nummer) {
             std::vector<std::uint8_t> puffer(static_cast<std::size_t>(satzlaengeVon(nummer)));
             // A record past the end of the source reads as zeros and is written so.
-            personendatei(s, quelle, von, nummer).lesen(s.aktuelleperson, puffer);
-            Satzdatei& z = personendatei(s, ziel, nach, nummer);
+            personendatei(s, von, nummer).lesen(s.aktuelleperson, puffer);
+            Satzdatei& z = personendatei(s, nach, nummer);
             z.schreiben(s.aktuelleperson, puffer);
             zieldateien.push_back(&z);
         }

@@ -1,6 +1,7 @@
 // Opening the file set: months, year record, tariffs, settings, texts, July 1997.
 #include "start/dateisatz.h"
 
+#include "core/laufzeitfehler.h"
 #include "start/einstellungen.h"
 
 namespace lonvir {
@@ -61,7 +62,18 @@ std::string dateiname(int nummer, int jahr, int schicht) {
     return {};
 }
 
+namespace {
+void nebenschichtenschliessen(Sitzung& s) {
+    for (Nebenschicht& n : s.nebenschichten) {
+        for (Satzdatei& d : n.dateien)
+            d.schliessen();
+        n.jahr = 0;
+    }
+}
+} // namespace
+
 void dateiloeschen(Sitzung& s, const std::string& name) {
+    nebenschichtenschliessen(s);
     s.lesepuffer.vergessen(s.ordner.pfad(name).native());
     if (s.vorgang.aktiv()) {
         s.vorgang.loeschen(s.ordner.pfad(name));
@@ -73,6 +85,7 @@ void dateiloeschen(Sitzung& s, const std::string& name) {
 void dateienschliessen(Sitzung& s) {
     for (Satzdatei& d : s.dateien)
         d.schliessen();
+    nebenschichtenschliessen(s);
 }
 
 namespace {
@@ -93,23 +106,38 @@ bool gueltig(const Sitzung& s, std::int16_t schicht) {
 }
 } // namespace
 
-Personendateien personendateienoeffnen(Sitzung& s, std::int16_t schicht) {
-    Personendateien d;
-    for (Satzdatei& datei : d) {
-        datei.binden(&s.vorgang);
-        datei.binden(&s.lesepuffer);
-    }
+namespace {
+// The person files of `schicht` opened for the current year beside the set.
+void nebenschichtoeffnen(Sitzung& s, Nebenschicht& n, std::int16_t schicht, std::int16_t jahr) {
+    for (Satzdatei& d : n.dateien)
+        d.schliessen();
+    n.jahr = 0;
+    // In a year the set does not know the files stay closed, and reading them fails.
     if (!gueltig(s, schicht))
-        return d;
-    const int jahr = s.jahr == 1998 ? 1998 : 1997;
+        return;
     // The file the set creates beside the months: L1998x.1 in 1997, the July of 1997 in 1998.
     if (jahr == 1997)
-        oeffnen(s, d[1], 1, 1998, schicht);
+        oeffnen(s, n.dateien[1], 1, 1998, schicht);
     else
-        oeffnen(s, d[7], 7, 1997, schicht);
+        oeffnen(s, n.dateien[7], 7, 1997, schicht);
     for (int nummer = 1; nummer <= datei::jahressaetze; ++nummer)
-        oeffnen(s, d[static_cast<std::size_t>(nummer)], nummer, jahr, schicht);
-    return d;
+        oeffnen(s, n.dateien[static_cast<std::size_t>(nummer)], nummer, jahr, schicht);
+    n.jahr = jahr;
+    n.nurLesen = s.nurLesen;
+    n.ordner = s.ordner.ordner();
+}
+} // namespace
+
+Satzdatei& personendatei(Sitzung& s, std::int16_t schicht, int nummer) {
+    if (nummer < 1 || nummer > datei::jahressaetze || schicht < INFO || schicht > REAL)
+        throw Laufzeitfehler::indexfehler();
+    if (schicht == s.schicht)
+        return s.datei(nummer);
+    Nebenschicht& n = s.nebenschichten[static_cast<std::size_t>(schicht)];
+    const std::int16_t jahr = s.jahr == 1998 ? 1998 : 1997;
+    if (n.jahr != jahr || n.nurLesen != s.nurLesen || n.ordner != s.ordner.ordner())
+        nebenschichtoeffnen(s, n, schicht, jahr);
+    return n.dateien[static_cast<std::size_t>(nummer)];
 }
 
 void dateienoeffnen(Sitzung& s) {

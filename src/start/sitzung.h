@@ -79,14 +79,32 @@ struct Stufenliste {
     [[nodiscard]] int letzteposition() const { return eintraege() - 1; }
 };
 
+// The person files 1 to 13 of one layer; index = file number, 0 unused.
+using Personendateien = std::array<Satzdatei, 14>;
+
+// The person files of a layer other than the one on the screen, opened by a transfer beside the
+// set and kept open for the next one, for the year and folder they were opened in.
+struct Nebenschicht {
+    std::int16_t jahr = 0; // 0: not open
+    bool nurLesen = false;
+    std::filesystem::path ordner;
+    Personendateien dateien;
+};
+
 struct Sitzung {
     // Every file of the set writes through the session's transaction while one is open, and
     // keeps its reads for the action under way; the text table is read whole at its first use.
+    // So do the person files of the other layers.
     Sitzung() {
         for (std::size_t nummer = 0; nummer < dateien.size(); ++nummer) {
             dateien[nummer].binden(&vorgang);
             dateien[nummer].binden(&lesepuffer, nummer == datei::texte);
         }
+        for (Nebenschicht& n : nebenschichten)
+            for (Satzdatei& d : n.dateien) {
+                d.binden(&vorgang);
+                d.binden(&lesepuffer);
+            }
     }
     Sitzung(const Sitzung&) = delete;
     Sitzung& operator=(const Sitzung&) = delete;
@@ -96,6 +114,9 @@ struct Sitzung {
     // The compiled installation data that seed a working folder without a store; empty: none.
     std::filesystem::path installation;
     std::array<Satzdatei, 24> dateien; // index = file number 1..23; 0 unused
+    // The person files of the layers not on the screen that a transfer has opened (index =
+    // layer); closed with the set and whenever a file of the folder is deleted.
+    std::array<Nebenschicht, 3> nebenschichten;
     Dialoge* dialoge = nullptr;
     Anzeige* anzeige = nullptr; // the screen that shows the rows; none in the CLI
     // The writes of the confirmed input under way, stored together at its end (Vorgang).

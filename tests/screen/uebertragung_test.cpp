@@ -1,10 +1,12 @@
 // The transfer buttons between neighbouring layers.
 #include "formhilfe.h"
 #include "screen/navigation.h"
+#include "screen/personalloeschen.h"
 #include "screen/uebertragung.h"
 #include "start/dateisatz.h"
 #include "start/jahressaetze.h"
 #include "start/satzzugriff.h"
+#include "start/start.h"
 #include "testhilfe.h"
 
 #include <gtest/gtest.h>
@@ -93,6 +95,93 @@ TEST(Uebertragung, PersonOhneSatzInDerQuelleGibtNullsaetzeImZiel) {
     // The card of a missing person reads as zeros and is written so.
     const std::string karten = test::dateiinhalt(u.ordner.pfad(), "L1997R.13");
     EXPECT_EQ(karten.substr(24 * 1280), std::string(1280, '\0'));
+}
+
+TEST(Uebertragung, DieDateienDerAnderenSchichtBleibenBisZumNaechstenOeffnenDesSatzesOffen) {
+    test::Umgebung u;
+    Sitzung& s = u.s;
+    s.aktuelleperson = 3;
+    monatefuellen(s, 3, 10000);
+    uebertragungsknopf(s, 2); // "Info  > Plan"
+    const int fd = s.nebenschichten[PLAN].dateien[5].deskriptor();
+    ASSERT_GE(fd, 0);
+    EXPECT_EQ(s.nebenschichten[PLAN].dateien[5].pfad().filename(), "L1997P.5");
+    monatefuellen(s, 3, 20000);
+    uebertragungsknopf(s, 2);
+    EXPECT_EQ(personendatei(s, PLAN, 5).deskriptor(), fd);
+    // The layer on the screen is the set's own.
+    EXPECT_EQ(&personendatei(s, INFO, 5), &s.datei(5));
+    EXPECT_THROW((void)personendatei(s, PLAN, 14), Laufzeitfehler);
+    EXPECT_THROW((void)personendatei(s, 3, 1), Laufzeitfehler);
+    // Opening the set again closes them.
+    dateienoeffnen(s);
+    for (int nummer = 1; nummer <= 13; ++nummer)
+        EXPECT_FALSE(s.nebenschichten[PLAN].dateien[static_cast<std::size_t>(nummer)].offen());
+    schicht(s, PLAN);
+    for (int monat = 1; monat <= 12; ++monat)
+        EXPECT_EQ(personalsatzlesen(s, monat, 3).wert[12], 20000 + 100 * monat);
+}
+
+TEST(Uebertragung, EineGeloeschteDateiDerZielschichtEntstehtNeuUndBekommtDenSatz) {
+    test::Umgebung u;
+    Sitzung& s = u.s;
+    s.aktuelleperson = 3;
+    monatefuellen(s, 3, 10000);
+    uebertragungsknopf(s, 2); // "Info  > Plan": the files of PLAN stand open
+    dateiloeschen(s, "L1997P.5");
+    ASSERT_FALSE(s.ordner.vorhanden("L1997P.5"));
+    monatefuellen(s, 3, 30000);
+    uebertragungsknopf(s, 2);
+    // Written into the new file, not through the descriptor of the one deleted.
+    const std::string mai = test::dateiinhalt(u.ordner.pfad(), "L1997P.5");
+    ASSERT_EQ(mai.size(), 3u * 541);
+    EXPECT_EQ(mai.substr(0, 2 * 541), std::string(2 * 541, '\0'));
+    schicht(s, PLAN);
+    EXPECT_EQ(personalsatzlesen(s, 5, 3).wert[12], 30500);
+    EXPECT_EQ(personalsatzlesen(s, 6, 3).wert[12], 30600);
+}
+
+TEST(Uebertragung, NachDemLoeschenDerPersonenDerZielschichtStehenSieInDenNeuenDateien) {
+    test::Umgebung u;
+    Sitzung& s = u.s;
+    test::Zaehlform form(s);
+    s.aktuelleperson = 2;
+    monatefuellen(s, 2, 10000);
+    uebertragungsknopf(s, 2); // "Info  > Plan"
+    schicht(s, PLAN);
+    ASSERT_TRUE(personalloeschen(s, form));
+    schicht(s, INFO);
+    s.aktuelleperson = 2;
+    monatefuellen(s, 2, 40000);
+    uebertragungsknopf(s, 2);
+    schicht(s, PLAN);
+    for (int monat = 1; monat <= 12; ++monat)
+        EXPECT_EQ(personalsatzlesen(s, monat, 2).wert[12], 40000 + 100 * monat);
+    const std::string karten = test::dateiinhalt(u.ordner.pfad(), "L1997P.13");
+    EXPECT_GE(karten.size(), 2u * 1280);
+}
+
+TEST(Uebertragung, InEinerNurLesendGeoeffnetenSitzungWirdNichtsGeschrieben) {
+    test::Umgebung u;
+    u.s.aktuelleperson = 3;
+    monatefuellen(u.s, 3, 10000);
+    const auto vorher = test::ordnerinhalt(u.ordner.pfad());
+    SkriptDialoge d;
+    Sitzung s;
+    s.ordner = u.s.ordner;
+    s.dialoge = &d;
+    s.nurLesen = true;
+    starten(s);
+    s.aktuelleperson = 3;
+    uebertragungsknopf(s, 2); // "Info  > Plan"
+    uebertragungsknopf(s, 2);
+    EXPECT_EQ(test::ordnerinhalt(u.ordner.pfad()), vorher);
+    // The files of PLAN are open for reading only.
+    for (int nummer = 1; nummer <= 13; ++nummer) {
+        const Satzdatei& plan = s.nebenschichten[PLAN].dateien[static_cast<std::size_t>(nummer)];
+        EXPECT_TRUE(plan.nurLesen()) << nummer;
+        EXPECT_EQ(plan.deskriptor(), -1) << nummer;
+    }
 }
 
 TEST(Uebertragung, DieVierKnoepfeUndIhreRichtungen) {

@@ -3,7 +3,9 @@
 #include "records/dimsatz.h"
 #include "records/personalsatz.h"
 #include "records/tarifsatz.h"
+#include "screen/uebertragung.h"
 #include "start/dateisatz.h"
+#include "start/satzzugriff.h"
 #include "start/texte.h"
 #include "transfer/jahreswechsel.h"
 
@@ -259,6 +261,34 @@ TEST(Jahreswechsel, NachDemWechselStehenDieDateienDesArbeitssatzesOffen) {
     EXPECT_TRUE(b.s.datei(1).offen());
     EXPECT_EQ(b.s.datei(1).pfad().filename(), "L1997P.1");
     EXPECT_TRUE(b.s.jahr1998freigegeben);
+}
+
+// A transfer in 1998 keeps the files of the other layer open; a year change replaces them, and
+// the next transfer writes into the new files.
+TEST(Jahreswechsel, EineUebertragungDanachSchreibtInDieNeuenDateien) {
+    Bestand b;
+    Sitzung& s = b.s;
+    ASSERT_TRUE(jahrkopieren(s, nullptr).erfolgreich);
+    s.jahr = 1998;
+    dateienoeffnen(s);
+    s.aktuelleperson = 2;
+    uebertragen(s, INFO, PLAN);
+    ASSERT_TRUE(s.nebenschichten[PLAN].dateien[3].offen());
+    test::dezembersetzen(s, PLAN, 2, 123456);
+    ASSERT_TRUE(jahrkopieren(s, nullptr).erfolgreich);
+    // The year change gave PLAN's person 2 a December that INFO's has not.
+    ASSERT_NE(personalsatzlesen(s, 3, 2).wert[22], 123456);
+    Personalsatz maerz = personalsatzlesen(s, 3, 2);
+    maerz.wert[12] = 777;
+    personalsatzschreiben(s, 3, 2, maerz);
+    uebertragen(s, INFO, PLAN);
+    const Ordnerbild nachher = ordnerbild(b.ordner.pfad());
+    for (int monat = 1; monat <= 12; ++monat) {
+        const std::string m = "." + std::to_string(monat);
+        EXPECT_EQ(satzaus(nachher, "L1998P" + m, 2, 541), satzaus(nachher, "L1998I" + m, 2, 541))
+            << monat;
+    }
+    EXPECT_EQ(personalsatz(satzaus(nachher, "L1998P.3", 2, 541)).wert[12], 777);
 }
 
 TEST(Jahreswechsel, FortschrittNachJederPersonUndJedemJahressatz) {
