@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <dirent.h>
 #include <fcntl.h>
 #include <fstream>
 #include <optional>
@@ -298,11 +299,13 @@ int dateitauschaufraeumen(const fs::path& ordner) {
         entfernen(liste);
         ordnersichern(ordner);
     }
+    // Read straight from the folder: this runs at every start.
     std::vector<fs::path> reste;
-    for (fs::directory_iterator it(ordner, fehler), ende; !fehler && it != ende;
-         it.increment(fehler)) {
-        if (endetauf(it->path().filename().string(), tausch::endung))
-            reste.push_back(it->path());
+    if (DIR* d = ::opendir(ordner.c_str())) {
+        while (const dirent* e = ::readdir(d))
+            if (endetauf(e->d_name, tausch::endung))
+                reste.push_back(ordner / e->d_name);
+        ::closedir(d);
     }
     for (const fs::path& rest : reste) {
         entfernen(rest);

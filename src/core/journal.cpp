@@ -2,6 +2,7 @@
 #include "core/journal.h"
 
 #include "core/laufzeitfehler.h"
+#include "core/pruefsumme.h"
 #include "core/schreibstoerung.h"
 
 #include <algorithm>
@@ -28,15 +29,6 @@ constexpr std::uint32_t hoechstensSatz = 1 << 20;
 constexpr std::int64_t hoechstensVersatz = std::int64_t{1} << 40;
 
 const char* const nichtsGespeichert = "Es wurde nichts gespeichert.";
-
-std::uint64_t pruefsumme(std::span<const std::uint8_t> b) {
-    std::uint64_t h = 1469598103934665603ULL; // FNV-1a
-    for (std::uint8_t c : b) {
-        h ^= c;
-        h *= 1099511628211ULL;
-    }
-    return h;
-}
 
 template <typename T> void anhaengen(std::vector<std::uint8_t>& aus, T wert) {
     std::uint8_t b[sizeof(T)];

@@ -1,6 +1,8 @@
 // The note file: "LVPV", the rules, the folder's path, the entries, a checksum over all of it.
 #include "core/pruefvermerk.h"
 
+#include "core/pruefsumme.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -18,15 +20,6 @@ namespace {
 constexpr char kennzeichen[4] = {'L', 'V', 'P', 'V'};
 // Beyond this many note files the oldest go; a working folder that comes back is read whole once.
 constexpr std::size_t hoechstzahl = 100;
-
-std::uint64_t pruefsumme(std::span<const std::uint8_t> bytes) {
-    std::uint64_t h = 1469598103934665603ULL; // FNV-1a
-    for (std::uint8_t b : bytes) {
-        h ^= b;
-        h *= 1099511628211ULL;
-    }
-    return h;
-}
 
 std::string hex(std::uint64_t wert) {
     static const char ziffern[] = "0123456789abcdef";

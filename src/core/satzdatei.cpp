@@ -62,6 +62,21 @@ void Satzdatei::lesendoeffnen(const std::filesystem::path& pfad, int satzlaenge)
     pfad_ = pfad;
 }
 
+bool Satzdatei::oeffnenFallsVorhanden(const std::filesystem::path& pfad, int satzlaenge,
+                                      bool lesend) {
+    schliessen();
+    fd_ = ::open(pfad.c_str(), (lesend ? O_RDONLY : O_RDWR) | O_CLOEXEC);
+    if (fd_ < 0 && errno == ENOENT)
+        return false;
+    if (fd_ < 0)
+        throw Dateifehler(pfad.string(),
+                          std::string("kann nicht geöffnet werden (") + std::strerror(errno) + ")");
+    nurLesen_ = lesend;
+    satzlaenge_ = satzlaenge;
+    pfad_ = pfad;
+    return true;
+}
+
 void Satzdatei::schliessen() {
     if (fd_ >= 0)
         ::close(fd_);

@@ -24,6 +24,10 @@ public:
     void oeffnen(const std::filesystem::path& pfad, int satzlaenge);
     // Opens the file for reading only; an absent file is not created and reads as empty.
     void lesendoeffnen(const std::filesystem::path& pfad, int satzlaenge);
+    // Opens the file if it exists (for reading only with `lesend`); false when it is absent,
+    // and the file stays closed.
+    [[nodiscard]] bool oeffnenFallsVorhanden(const std::filesystem::path& pfad, int satzlaenge,
+                                             bool lesend);
     // While `v` is active, writes go into it instead of the file, and reads and the length
     // see them; the binding survives closing and opening.
     void binden(Schreibvorgang* v) { vorgang_ = v; }

@@ -90,7 +90,12 @@ void dateienschliessen(Sitzung& s) {
 
 namespace {
 void oeffnen(Sitzung& s, Satzdatei& d, int nummer, int jahr, std::int16_t schicht) {
-    const auto pfad = s.ordner.pfad(dateiname(nummer, jahr, schicht));
+    const std::string name = dateiname(nummer, jahr, schicht);
+    // Under its own name a file opens at once; only an absent one is looked for without regard
+    // to case, and created where it is not found.
+    if (d.oeffnenFallsVorhanden(s.ordner.ordner() / name, satzlaengeVon(nummer), s.nurLesen))
+        return;
+    const auto pfad = s.ordner.pfad(name);
     if (s.nurLesen)
         d.lesendoeffnen(pfad, satzlaengeVon(nummer));
     else

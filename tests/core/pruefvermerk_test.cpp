@@ -20,6 +20,20 @@ Dateikennung kennung(std::int64_t laenge) {
     k.eintragNanos = 5;
     return k;
 }
+
+// January noted in a session of its own on folder `ordner` under `regeln`, kept at its end.
+void januarvermerken(const fs::path& ablage, const std::string& ordner, std::uint32_t regeln = 1) {
+    Pruefvermerk v;
+    v.laden(ordner, regeln, ablage);
+    v.eintragen("L1997I.1", kennung(541));
+}
+
+// Whether a new session on `ordner` finds January noted.
+bool januarvermerkt(const fs::path& ablage, const std::string& ordner, std::uint32_t regeln = 1) {
+    Pruefvermerk v;
+    v.laden(ordner, regeln, ablage);
+    return v.gilt("L1997I.1", kennung(541));
+}
 } // namespace
 
 TEST(Pruefvermerk, EinEintragHaeltUeberDasEndeDerSitzungHinaus) {
@@ -60,30 +74,17 @@ TEST(Pruefvermerk, EinGestrichenerEintragGiltNichtMehr) {
 
 TEST(Pruefvermerk, JederOrdnerHatSeineEigenenVermerke) {
     test::Tempordner ablage;
-    {
-        Pruefvermerk v;
-        v.laden("/daten/lohn", 1, ablage.pfad());
-        v.eintragen("L1997I.1", kennung(541));
-    }
-    Pruefvermerk anderer;
-    anderer.laden("/daten/lohn2", 1, ablage.pfad());
-    EXPECT_FALSE(anderer.gilt("L1997I.1", kennung(541)));
+    januarvermerken(ablage.pfad(), "/daten/lohn");
+    EXPECT_TRUE(januarvermerkt(ablage.pfad(), "/daten/lohn"));
+    EXPECT_FALSE(januarvermerkt(ablage.pfad(), "/daten/lohn2"));
     // The same folder spelled with a dot component is the same folder.
-    Pruefvermerk gleich;
-    gleich.laden("/daten/./lohn", 1, ablage.pfad());
-    EXPECT_TRUE(gleich.gilt("L1997I.1", kennung(541)));
+    EXPECT_TRUE(januarvermerkt(ablage.pfad(), "/daten/./lohn"));
 }
 
 TEST(Pruefvermerk, VermerkeNachAnderenRegelnGeltenNicht) {
     test::Tempordner ablage;
-    {
-        Pruefvermerk v;
-        v.laden("/daten/lohn", 1, ablage.pfad());
-        v.eintragen("L1997I.1", kennung(541));
-    }
-    Pruefvermerk v;
-    v.laden("/daten/lohn", 2, ablage.pfad());
-    EXPECT_FALSE(v.gilt("L1997I.1", kennung(541)));
+    januarvermerken(ablage.pfad(), "/daten/lohn", 1);
+    EXPECT_FALSE(januarvermerkt(ablage.pfad(), "/daten/lohn", 2));
 }
 
 TEST(Pruefvermerk, EineBeschaedigteVermerkdateiGiltGarNicht) {
