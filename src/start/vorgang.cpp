@@ -31,9 +31,11 @@ std::map<std::string, int> offeneDateien(Sitzung& s, const std::vector<const Sat
 // The identities of the noted files a store changes, taken before the changes reach them.
 using Vorher = std::map<std::string, std::optional<Dateikennung>>;
 
-std::optional<Dateikennung> kennungVon(const Schreibvorgang::Schritt& schritt,
+// The identity of the file `name` that the step changes, through its open descriptor if any.
+std::optional<Dateikennung> kennungVon(const std::string& name,
+                                       const Schreibvorgang::Schritt& schritt,
                                        const std::map<std::string, int>& offen) {
-    const auto it = offen.find(schritt.pfad.filename().string());
+    const auto it = offen.find(name);
     return it != offen.end() ? dateikennung(it->second) : dateikennung(schritt.pfad);
 }
 
@@ -43,8 +45,8 @@ Vorher vermerkteVorher(const Pruefvermerk& vermerk, const journal::Aenderungen& 
     for (const auto& schritt : aenderungen) {
         const std::string name = schritt.pfad.filename().string();
         if (!vorher.contains(name))
-            vorher.emplace(name,
-                           vermerk.enthaelt(name) ? kennungVon(schritt, offen) : std::nullopt);
+            vorher.emplace(name, vermerk.enthaelt(name) ? kennungVon(name, schritt, offen)
+                                                        : std::nullopt);
     }
     return vorher;
 }
@@ -68,7 +70,7 @@ void vermerknachtragen(Pruefvermerk& vermerk, const Vorher& vorher,
     }
     for (const auto& schritt : aenderungen) {
         const std::string name = schritt.pfad.filename().string();
-        const auto k = gesund[name] ? kennungVon(schritt, offen) : std::nullopt;
+        const auto k = gesund[name] ? kennungVon(name, schritt, offen) : std::nullopt;
         if (k)
             vermerk.eintragen(name, *k);
         else
