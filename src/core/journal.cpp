@@ -2,6 +2,7 @@
 #include "core/journal.h"
 
 #include "core/laufzeitfehler.h"
+#include "core/pfadname.h"
 #include "core/pruefsumme.h"
 #include "core/schreibstoerung.h"
 
@@ -175,7 +176,7 @@ std::vector<Schreibvorgang::Schritt> aenderungen(Deskriptoren& d,
     std::map<std::string, std::vector<std::pair<std::int64_t, std::int64_t>>> bereiche;
     std::set<std::string> festeFolge;
     for (const auto& s : schritte) {
-        const std::string name = s.pfad.filename().string();
+        const std::string name = dateinamevon(s.pfad);
         if (s.art == Art::loeschen)
             festeFolge.insert(name);
         else
@@ -188,7 +189,7 @@ std::vector<Schreibvorgang::Schritt> aenderungen(Deskriptoren& d,
     std::vector<Schreibvorgang::Schritt> noetig;
     noetig.reserve(schritte.size());
     for (auto& s : schritte) {
-        const std::string name = s.pfad.filename().string();
+        const std::string name = dateinamevon(s.pfad);
         const bool unveraendert =
             s.art == Art::schreiben && !festeFolge.contains(name) &&
             haeltSchon(d.holen(name, false), s.versatz, s.bytes, laengen[name]);
@@ -206,7 +207,7 @@ void platzreservieren(Deskriptoren& d, const fs::path& ordner,
     std::map<std::string, std::int64_t> ende;
     for (const auto& s : schritte)
         if (s.art == Schreibvorgang::Schritt::Art::schreiben) {
-            std::int64_t& e = ende[s.pfad.filename().string()];
+            std::int64_t& e = ende[dateinamevon(s.pfad)];
             e = std::max(e, s.versatz + static_cast<std::int64_t>(s.bytes.size()));
         }
     for (const auto& [name, e] : ende) {
@@ -297,7 +298,7 @@ void journalschreiben(Ordner& ordner, const fs::path& pfad, std::span<const std:
 void anwenden(Deskriptoren& d, const fs::path& ordner,
               const std::vector<Schreibvorgang::Schritt>& schritte) {
     for (const auto& s : schritte) {
-        const std::string name = s.pfad.filename().string();
+        const std::string name = dateinamevon(s.pfad);
         const fs::path pfad = ordner / name;
         if (s.art == Schreibvorgang::Schritt::Art::loeschen) {
             d.aufgeben(name);
@@ -344,6 +345,14 @@ std::optional<std::vector<std::uint8_t>> dateilesen(const fs::path& pfad) {
     }
     ::close(fd);
     return b;
+}
+
+// Whether `pfad` is the folder's text, one '/' and a name, as the session builds its paths.
+bool direktIn(const fs::path& ordner, const fs::path& pfad) {
+    const std::string& o = ordner.native();
+    const std::string& p = pfad.native();
+    return !o.empty() && p.size() > o.size() + 1 && p.compare(0, o.size(), o) == 0 &&
+           p[o.size()] == '/' && p.find('/', o.size() + 1) == std::string::npos;
 }
 
 } // namespace
@@ -418,11 +427,9 @@ Aenderungen festschreiben(const fs::path& ordner, const Schreibvorgang& v,
         return {};
     std::vector<Schreibvorgang::Schritt> schritte = v.schritte();
     const fs::path normal = ordner.lexically_normal();
-    for (const auto& s : schritte) {
-        const fs::path liegt = s.pfad.parent_path();
-        if (liegt != ordner && liegt.lexically_normal() != normal)
+    for (const auto& s : schritte)
+        if (!direktIn(ordner, s.pfad) && s.pfad.parent_path().lexically_normal() != normal)
             throw Dateifehler(s.pfad.string(), "liegt nicht im Arbeitsordner");
-    }
     Deskriptoren d(ordner, offen);
     Mindestlaengen laengen;
     schritte = aenderungen(d, std::move(schritte), laengen);

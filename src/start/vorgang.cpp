@@ -3,6 +3,7 @@
 
 #include "core/journal.h"
 #include "core/laufzeitfehler.h"
+#include "core/pfadname.h"
 #include "start/bestandspruefung.h"
 #include "start/dateisatz.h"
 
@@ -19,7 +20,7 @@ std::map<std::string, int> offeneDateien(Sitzung& s, const std::vector<const Sat
     std::map<std::string, int> offen;
     auto eintragen = [&offen](const Satzdatei& d) {
         if (d.deskriptor() >= 0)
-            offen.emplace(d.pfad().filename().string(), d.deskriptor());
+            offen.emplace(dateinamevon(d.pfad()), d.deskriptor());
     };
     for (const Satzdatei& d : s.dateien)
         eintragen(d);
@@ -43,7 +44,7 @@ Vorher vermerkteVorher(const Pruefvermerk& vermerk, const journal::Aenderungen& 
                        const std::map<std::string, int>& offen) {
     Vorher vorher;
     for (const auto& schritt : aenderungen) {
-        const std::string name = schritt.pfad.filename().string();
+        const std::string name = dateinamevon(schritt.pfad);
         if (!vorher.contains(name))
             vorher.emplace(name, vermerk.enthaelt(name) ? kennungVon(name, schritt, offen)
                                                         : std::nullopt);
@@ -61,7 +62,7 @@ void vermerknachtragen(Pruefvermerk& vermerk, const Vorher& vorher,
         return;
     std::map<std::string, bool> gesund;
     for (const auto& schritt : aenderungen) {
-        const std::string name = schritt.pfad.filename().string();
+        const std::string name = dateinamevon(schritt.pfad);
         const auto it = vorher.find(name);
         const bool warGesund = it != vorher.end() && it->second && vermerk.gilt(name, *it->second);
         bool& g = gesund.try_emplace(name, warGesund).first->second;
@@ -69,7 +70,7 @@ void vermerknachtragen(Pruefvermerk& vermerk, const Vorher& vorher,
             gesundgeschrieben(name, schritt.versatz, schritt.bytes);
     }
     for (const auto& schritt : aenderungen) {
-        const std::string name = schritt.pfad.filename().string();
+        const std::string name = dateinamevon(schritt.pfad);
         const auto k = gesund[name] ? kennungVon(name, schritt, offen) : std::nullopt;
         if (k)
             vermerk.eintragen(name, *k);
